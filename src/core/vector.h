@@ -1,0 +1,50 @@
+// A vector as an operation sees it, and what stands in for the words that it does not have.
+#ifndef TARN_CORE_VECTOR_H
+#define TARN_CORE_VECTOR_H
+
+#include "core/word.h"
+
+namespace tarn {
+
+// A vector that an operation reads; it may lie in the same storage as the result.
+struct Operand {
+    int width;
+    const VectorWord* words;
+
+    std::size_t Count() const noexcept { return WordCount(width); }
+};
+
+// A vector that an operation writes.
+struct Result {
+    int width;
+    VectorWord* words;
+
+    std::size_t Count() const noexcept { return WordCount(width); }
+};
+
+// How an operand that is narrower than the result goes on above its top word. The signed form takes
+// bit 31 of the top word, of aval and of bval each for itself: storage holds copies of the sign
+// above the width.
+struct SignExtend {
+    static constexpr Word Beyond(Word top) noexcept {
+        return ((top >> 31) & 0x0000000100000001) * kValueBits;
+    }
+};
+
+struct ZeroExtend {
+    static constexpr Word Beyond(Word) noexcept { return 0; }
+};
+
+static_assert(SignExtend::Beyond(MakeWord(0x80000000, 0)) == MakeWord(0xFFFFFFFF, 0));
+static_assert(SignExtend::Beyond(MakeWord(0x7FFFFFFF, 0xFFFFFFFF)) == MakeWord(0, 0xFFFFFFFF));
+static_assert(SignExtend::Beyond(kAllX) == kAllX);
+
+// The word that stands above the operand's own; an operand without words counts as 0.
+template <class Extend>
+inline Word ExtensionWord(Operand operand) noexcept {
+    return operand.width < 1 ? 0 : Extend::Beyond(LoadWord(operand.words + operand.Count() - 1));
+}
+
+}  // namespace tarn
+
+#endif  // TARN_CORE_VECTOR_H

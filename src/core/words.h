@@ -1,0 +1,53 @@
+// Runs of whole words: copied, filled, searched for unknown bits.
+#ifndef TARN_CORE_WORDS_H
+#define TARN_CORE_WORDS_H
+
+#include "core/vector.h"
+
+namespace tarn {
+
+// Runs up to this length are walked in place; a longer one is worth a call.
+inline constexpr std::size_t kShortRun = 4;
+
+void FillLongRun(VectorWord* to, std::size_t count, Word word) noexcept;
+bool HasUnknownLongRun(const VectorWord* words, std::size_t count) noexcept;
+
+inline void FillWords(VectorWord* to, std::size_t count, Word word) noexcept {
+    if (count > kShortRun) {
+        FillLongRun(to, count, word);
+        return;
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+        StoreWord(to + i, word);
+    }
+}
+
+inline void FillX(Result result) noexcept {
+    FillWords(result.words, result.Count(), kAllX);
+}
+
+// to and from may be the same storage, or apart.
+inline void CopyWords(VectorWord* to, const VectorWord* from, std::size_t count) noexcept {
+    if (count > kShortRun) {
+        std::memmove(to, from, count * sizeof(VectorWord));
+        return;
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+        StoreWord(to + i, LoadWord(from + i));
+    }
+}
+
+inline bool HasUnknown(const VectorWord* words, std::size_t count) noexcept {
+    if (count > kShortRun) {
+        return HasUnknownLongRun(words, count);
+    }
+    Word all = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        all |= LoadWord(words + i);
+    }
+    return IsUnknown(all);
+}
+
+}  // namespace tarn
+
+#endif  // TARN_CORE_WORDS_H
