@@ -1,0 +1,67 @@
+// Steps on one or two limbs. A natural is an array of limbs, least significant first; everything in
+// this folder works on naturals and knows nothing of vectors, widths or unknown bits.
+#ifndef TARN_ARITH_NATURAL_LIMB_H
+#define TARN_ARITH_NATURAL_LIMB_H
+
+#include <cstddef>
+#include <cstdint>
+
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
+
+namespace tarn {
+
+using Limb = std::uint64_t;
+__extension__ typedef unsigned __int128 DoubleLimb;
+
+inline constexpr int kLimbBits = 64;
+
+constexpr Limb HighLimb(DoubleLimb value) noexcept {
+    return static_cast<Limb>(value >> kLimbBits);
+}
+constexpr Limb LowLimb(DoubleLimb value) noexcept {
+    return static_cast<Limb>(value);
+}
+constexpr DoubleLimb MakeDoubleLimb(Limb high, Limb low) noexcept {
+    return (static_cast<DoubleLimb>(high) << kLimbBits) | low;
+}
+
+constexpr DoubleLimb MultiplyLimbs(Limb a, Limb b) noexcept {
+    return static_cast<DoubleLimb>(a) * b;
+}
+
+using CarryFlag = unsigned char;
+
+// sum = a + b + carry; returns the carry out. The intrinsic keeps the carry in the processor's flag
+// from one limb to the next.
+inline CarryFlag AddWithCarry(CarryFlag carry, Limb a, Limb b, Limb* sum) noexcept {
+#if defined(__x86_64__)
+    unsigned long long out = 0;
+    const CarryFlag carryOut = _addcarry_u64(carry, a, b, &out);
+    *sum = out;
+    return carryOut;
+#else
+    const DoubleLimb total = static_cast<DoubleLimb>(a) + b + carry;
+    *sum = LowLimb(total);
+    return static_cast<CarryFlag>(HighLimb(total));
+#endif
+}
+
+// difference = a - b - borrow; returns the borrow out.
+inline CarryFlag SubtractWithBorrow(CarryFlag borrow, Limb a, Limb b, Limb* difference) noexcept {
+#if defined(__x86_64__)
+    unsigned long long out = 0;
+    const CarryFlag borrowOut = _subborrow_u64(borrow, a, b, &out);
+    *difference = out;
+    return borrowOut;
+#else
+    const DoubleLimb total = static_cast<DoubleLimb>(a) - b - borrow;
+    *difference = LowLimb(total);
+    return static_cast<CarryFlag>(HighLimb(total) & 1U);
+#endif
+}
+
+}  // namespace tarn
+
+#endif  // TARN_ARITH_NATURAL_LIMB_H
