@@ -1,0 +1,76 @@
+#include "arith/natural/multiply.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "arith/natural/multiply_internal.h"
+#include "arith/natural/span.h"
+#include "arith/natural/thresholds.h"
+
+namespace tarn {
+
+void MultiplyBalanced(Limb* result, const Limb* a, const Limb* b, std::size_t count,
+                      Limb* scratch) noexcept {
+    if (b == nullptr) {
+        if (count < kSquareKaratsubaThreshold) return SquareBasecase(result, a, count);
+    } else {
+        if (count < kKaratsubaThreshold) return MultiplyBasecase(result, a, count, b, count);
+    }
+    MultiplyKaratsuba(result, a, b, count, scratch);
+}
+
+std::size_t MultiplyBalancedScratch(std::size_t count) noexcept {
+    if (count < std::min(kKaratsubaThreshold, kSquareKaratsubaThreshold)) return 0;
+    return MultiplyKaratsubaScratch(count);
+}
+
+// The product of each piece is written where it belongs; its low half covers the high half of the
+// one before, which therefore waits in scratch and is added afterwards.
+void MultiplyPieces(Limb* result, const Limb* a, std::size_t aCount, const Limb* b,
+                    std::size_t bCount, Limb* scratch) noexcept {
+    Limb* before = scratch;
+    Limb* rest = scratch + bCount;
+    MultiplyBalanced(result, a, b, bCount, rest);
+    std::size_t done = bCount;
+    while (done < aCount) {
+        const std::size_t count = std::min(bCount, aCount - done);
+        std::copy_n(result + done, bCount, before);
+        Multiply(result + done, a + done, count, b, bCount, rest);
+        Add(result + done, result + done, bCount + count, before, bCount);
+        done += count;
+    }
+}
+
+std::size_t MultiplyPiecesScratch(std::size_t aCount, std::size_t bCount) noexcept {
+    const std::size_t last = aCount % bCount;
+    const std::size_t forLast = last == 0 ? 0 : MultiplyScratch(bCount, last);
+    return bCount + std::max(MultiplyBalancedScratch(bCount), forLast);
+}
+
+void Multiply(Limb* result, const Limb* a, std::size_t aCount, const Limb* b, std::size_t bCount,
+              Limb* scratch) noexcept {
+    if (aCount < bCount) {
+        std::swap(a, b);
+        std::swap(aCount, bCount);
+    }
+    if (bCount < kKaratsubaThreshold) return MultiplyBasecase(result, a, aCount, b, bCount);
+    if (aCount == bCount) return MultiplyBalanced(result, a, b, aCount, scratch);
+    MultiplyPieces(result, a, aCount, b, bCount, scratch);
+}
+
+std::size_t MultiplyScratch(std::size_t aCount, std::size_t bCount) noexcept {
+    if (aCount < bCount) std::swap(aCount, bCount);
+    if (bCount < kKaratsubaThreshold) return 0;
+    if (aCount == bCount) return MultiplyBalancedScratch(aCount);
+    return MultiplyPiecesScratch(aCount, bCount);
+}
+
+void Square(Limb* result, const Limb* a, std::size_t count, Limb* scratch) noexcept {
+    MultiplyBalanced(result, a, nullptr, count, scratch);
+}
+
+std::size_t SquareScratch(std::size_t count) noexcept {
+    return MultiplyBalancedScratch(count);
+}
+
+}  // namespace tarn

@@ -1,0 +1,17 @@
+// Where one algorithm takes over from the next, in limbs: the smallest operand for which the faster
+// one pays. Each figure comes from the program named above it.
+#ifndef TARN_ARITH_NATURAL_THRESHOLDS_H
+#define TARN_ARITH_NATURAL_THRESHOLDS_H
+
+#include <cstddef>
+
+namespace tarn {
+
+// bench/tune_multiply
+inline constexpr std::size_t kKaratsubaThreshold = 28;
+inline constexpr std::size_t kSquareKaratsubaThreshold = 40;
+inline constexpr std::size_t kMuldersThreshold = 48;
+
+}  // namespace tarn
+
+#endif  // TARN_ARITH_NATURAL_THRESHOLDS_H
