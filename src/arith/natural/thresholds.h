@@ -12,6 +12,10 @@ inline constexpr std::size_t kKaratsubaThreshold = 28;
 inline constexpr std::size_t kSquareKaratsubaThreshold = 40;
 inline constexpr std::size_t kMuldersThreshold = 48;
 
+// Chunks of 19 digits up to which decimal digits are gathered chunk by chunk; above, by halves.
+// Measured by bench/tune_divide.cpp.
+inline constexpr std::size_t kParseHalvesChunks = 40;
+
 }  // namespace tarn
 
 #endif  // TARN_ARITH_NATURAL_THRESHOLDS_H
