@@ -16,6 +16,9 @@ inline constexpr std::size_t kMuldersThreshold = 48;
 // Measured by bench/tune_divide.cpp.
 inline constexpr std::size_t kParseHalvesChunks = 40;
 
+// Limbs of divisor and of quotient from which both are halved; below, one quotient limb at a time.
+inline constexpr std::size_t kDivideHalvesLimbs = 20;
+
 }  // namespace tarn
 
 #endif  // TARN_ARITH_NATURAL_THRESHOLDS_H

@@ -1,0 +1,37 @@
+// The ways to divide naturals, each on its own; Divide in divide.h picks among them.
+#ifndef TARN_ARITH_NATURAL_DIVIDE_BASE_H
+#define TARN_ARITH_NATURAL_DIVIDE_BASE_H
+
+#include <cstddef>
+
+#include "arith/natural/divide_step.h"
+#include "arith/natural/limb.h"
+
+namespace tarn {
+
+// quotient[0 .. count) = a / d; returns the remainder. count >= 1 and d != 0. The quotient may be
+// null, or a itself.
+Limb DivideByLimb(Limb* quotient, const Limb* a, std::size_t count, Limb d) noexcept;
+
+// quotient[0 .. count - 1) = a / (dHigh, dLow); returns the remainder. count >= 2 and dHigh != 0.
+// The quotient may be null.
+DoubleLimb DivideByTwoLimbs(Limb* quotient, const Limb* a, std::size_t count, Limb dHigh,
+                            Limb dLow) noexcept;
+
+// The functions below divide by a normalised d (top bit set) of at least two limbs, whose two top
+// limbs `top` describes. They leave the remainder in a[0 .. dCount), write the low limbs of the
+// quotient, aCount - dCount of them, and return the limb above, 0 or 1: 0 if the dCount top limbs
+// of a are below d.
+
+// Limb by limb: time in proportion to dCount * (aCount - dCount).
+Limb DivideSchoolbook(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d,
+                      std::size_t dCount, const TopDivisor& top) noexcept;
+
+// By halves, which go to DivideSchoolbook below `leafCount` limbs; leafCount is at least 4.
+Limb DivideByHalves(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d, std::size_t dCount,
+                    const TopDivisor& top, std::size_t leafCount, Limb* scratch) noexcept;
+std::size_t DivideByHalvesScratch(std::size_t aCount, std::size_t dCount) noexcept;
+
+}  // namespace tarn
+
+#endif  // TARN_ARITH_NATURAL_DIVIDE_BASE_H
