@@ -1,8 +1,29 @@
-// Exports: the text buffer.
+// Exports: the text buffer, vectors as text, text as vectors.
+#include <cstring>
+
 #include <tarnlib/text.h>
 
 #include "core/contract.h"
+#include "text/characters.h"
+#include "text/literal.h"
+#include "text/parse.h"
+#include "text/radix_text.h"
 #include "text/text_buffer.h"
+
+#define TARN_REQUIRE_VALUE(width, value, option) \
+    TARN_ARGUMENTS(width, value, option);        \
+    TARN_REQUIRE(width >= 1);                    \
+    TARN_REQUIRE(IsVector(width, value))
+
+#define TARN_REQUIRE_PARSE(width, result, text) \
+    TARN_ARGUMENTS(width, result, text);        \
+    TARN_REQUIRE(width >= 1);                   \
+    TARN_REQUIRE(IsVector(width, result));      \
+    TARN_REQUIRE(text != nullptr)
+
+#define TARN_REQUIRE_CODE(code) \
+    TARN_ARGUMENTS(code);       \
+    TARN_REQUIRE(code >= 0 && code <= 5)
 
 using namespace tarn;
 
@@ -22,6 +43,109 @@ char* tarn_CopyNToGlobalBuffer(const char* text, unsigned count) {
     TARN_ARGUMENTS(text, count);
     TARN_REQUIRE(text != nullptr);
     return CopyPaddedText(text, count);
+}
+
+char* tarn_ConvertToBin(int width, const VectorWord* value, int minDigits) {
+    TARN_REQUIRE_VALUE(width, value, minDigits);
+    return FormatRadix<Binary>({width, value}, minDigits);
+}
+
+char* tarn_ConvertToOct(int width, const VectorWord* value, int minDigits) {
+    TARN_REQUIRE_VALUE(width, value, minDigits);
+    return FormatRadix<Octal>({width, value}, minDigits);
+}
+
+char* tarn_ConvertToHex(int width, const VectorWord* value, int minDigits) {
+    TARN_REQUIRE_VALUE(width, value, minDigits);
+    return FormatRadix<Hexadecimal>({width, value}, minDigits);
+}
+
+char* tarn_ConvertToBin0(int code) {
+    TARN_REQUIRE_CODE(code);
+    return FormatLogicCode(code);
+}
+
+char* tarn_ConvertToOct0(int code) {
+    TARN_REQUIRE_CODE(code);
+    return FormatLogicCode(code);
+}
+
+char* tarn_ConvertToHex0(int code) {
+    TARN_REQUIRE_CODE(code);
+    return FormatLogicCode(code);
+}
+
+char* tarn_ConvertToChar(const VectorWord* value, int spaceForNul) {
+    TARN_ARGUMENTS(value, spaceForNul);
+    TARN_REQUIRE(IsVector(1, value));
+    return FormatCharacter(static_cast<char>(KnownOnes(LoadWord(value)) & 0xFF), spaceForNul != 0);
+}
+
+char* tarn_ConvertToChar0(int code, int spaceForNul) {
+    TARN_REQUIRE_CODE(code);
+    return FormatCharacter(code == TARN_LOGIC_1 ? '\1' : '\0', spaceForNul != 0);
+}
+
+char* tarn_ConvertToString0(int code, int spaceForNul) {
+    TARN_REQUIRE_CODE(code);
+    return FormatCharacter(code == TARN_LOGIC_1 ? '\1' : '\0', spaceForNul != 0);
+}
+
+char* tarn_ConvertToString(int width, const VectorWord* value, int spaceForNul) {
+    TARN_REQUIRE_VALUE(width, value, spaceForNul);
+    return FormatString({width, value}, spaceForNul != 0);
+}
+
+bool tarn_BinaryStringToVector(int width, VectorWord* result, const char* digits) noexcept {
+    TARN_REQUIRE_PARSE(width, result, digits);
+    ParseRadixDigits<Binary>({width, result}, digits);
+    return false;
+}
+
+bool tarn_OctalStringToVector(int width, VectorWord* result, const char* digits) noexcept {
+    TARN_REQUIRE_PARSE(width, result, digits);
+    ParseRadixDigits<Octal>({width, result}, digits);
+    return false;
+}
+
+bool tarn_HexStringToVector(int width, VectorWord* result, const char* digits) noexcept {
+    TARN_REQUIRE_PARSE(width, result, digits);
+    ParseRadixDigits<Hexadecimal>({width, result}, digits);
+    return false;
+}
+
+bool tarn_DecimalStringToVector(int width, VectorWord* result, const char* digits) {
+    TARN_REQUIRE_PARSE(width, result, digits);
+    ParseDecimalDigits({width, result}, digits);
+    return false;
+}
+
+bool tarn_StringToVector(int width, VectorWord* result, const char* text) noexcept {
+    TARN_REQUIRE_PARSE(width, result, text);
+    PackCharacters({width, result}, text);
+    return false;
+}
+
+void tarn_AssignStringToVector(int width, VectorWord* result, int length,
+                               const char* text) noexcept {
+    TARN_ARGUMENTS(width, result, length, text);
+    TARN_REQUIRE(width >= 1);
+    TARN_REQUIRE(IsVector(width, result));
+    TARN_REQUIRE(length == 0 || (length > 0 && text != nullptr));
+    PackCharacters({width, result}, {text, length < 0 ? 0 : static_cast<std::size_t>(length)});
+}
+
+bool tarn_CreateVector(const char* sizeText, const char* valueText, int* width, VectorWord** result,
+                       void* (*allocate)(std::uint64_t byteCount), unsigned char* truncated) {
+    TARN_ARGUMENTS(sizeText, valueText, width, result, allocate, truncated);
+    TARN_REQUIRE(valueText != nullptr);
+    TARN_REQUIRE(width != nullptr && result != nullptr && allocate != nullptr);
+    const LiteralOutput output{width, result, allocate, truncated};
+    if (*valueText == '"') {
+        ParseStringLiteral(valueText, output);
+        return false;
+    }
+    return ParseNumberLiteral(sizeText, valueText, output);
 }
 
 }  // extern "C"

@@ -1,0 +1,182 @@
+// The loops that turn words into digit characters. Text runs from the most significant digit to the
+// least and words the other way, so every loop walks the words upward and the text downward.
+#ifndef TARN_TEXT_WRITE_DIGITS_H
+#define TARN_TEXT_WRITE_DIGITS_H
+
+#include <algorithm>
+
+#include "core/word.h"
+#include "text/byte_vector.h"
+#include "text/digits.h"
+
+namespace tarn {
+
+inline void StoreEight(char* to, std::uint64_t characters) noexcept {
+    std::memcpy(to, &characters, sizeof characters);
+}
+
+// The bits of a byte as eight bytes of 0 or 1 in text order: bit 7 in the first.
+inline constexpr auto kSpreadBits = [] {
+    std::array<std::uint64_t, 256> table{};
+    for (unsigned byte = 0; byte < 256; ++byte) {
+        for (unsigned bit = 0; bit < 8; ++bit) {
+            table[byte] |= static_cast<std::uint64_t>((byte >> bit) & 1U) << (8 * (7 - bit));
+        }
+    }
+    return table;
+}();
+
+inline constexpr std::uint64_t kEightZeros = 0x3030303030303030;
+
+// Eight binary digits. From '0' and '1' an unknown bit leads to 'z' and 'x' by exclusive or:
+// '0' ^ 'z' = 0x4a, '1' ^ 'x' = 0x49 = 0x4a ^ 3.
+static_assert(('0' ^ 0x4a) == 'z' && ('1' ^ 0x4a ^ 3) == 'x');
+inline std::uint64_t BinaryDigits(std::uint32_t aval, std::uint32_t bval) noexcept {
+    return (kEightZeros | kSpreadBits[aval & 0xFF]) ^ (kSpreadBits[bval & 0xFF] * 0x4a) ^
+           (kSpreadBits[aval & bval & 0xFF] * 3);
+}
+
+// The 32 digits of a word in front of end.
+inline void WriteBinaryWord(char* end, Word word) noexcept {
+    const std::uint32_t aval = Aval(word), bval = Bval(word);
+    if (bval == 0) {
+        for (unsigned byte = 0; byte < 4; ++byte) {
+            StoreEight(end - 8 * (byte + 1), kEightZeros | kSpreadBits[(aval >> 8 * byte) & 0xFF]);
+        }
+        return;
+    }
+    for (unsigned byte = 0; byte < 4; ++byte) {
+        StoreEight(end - 8 * (byte + 1), BinaryDigits(aval >> 8 * byte, bval >> 8 * byte));
+    }
+}
+
+// Single digits in front of end, from the low bits of aval and bval; for what no block covers.
+template <class Layout>
+char* WriteSingleDigits(char* end, std::uint64_t aval, std::uint64_t bval,
+                        std::size_t count) noexcept {
+    constexpr unsigned kBits = Layout::kBits;
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto index = ((bval & kDigitMask<Layout>) << kBits) | (aval & kDigitMask<Layout>);
+        *--end = kDigitCharacters<Layout>[index];
+        aval >>= kBits;
+        bval >>= kBits;
+    }
+    return end;
+}
+
+// The digits of 128 bits, one a byte, in text order: the upper half goes before the lower.
+struct HexDigits {
+    Bytes upper;
+    Bytes lower;
+};
+
+inline HexDigits SpreadNibbles(std::uint64_t low, std::uint64_t high) noexcept {
+    const Bytes bytes =
+        reinterpret_cast<Bytes>(Limbs{__builtin_bswap64(high), __builtin_bswap64(low)});
+    const Bytes even = reinterpret_cast<Bytes>(reinterpret_cast<Limbs>(bytes) >> 4) & AllBytes(15);
+    const Bytes odd = bytes & AllBytes(15);
+    return {
+        __builtin_shufflevector(even, odd, 0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23),
+        __builtin_shufflevector(even, odd, 8, 24, 9, 25, 10, 26, 11, 27, 12, 28, 13, 29, 14, 30, 15,
+                                31)};
+}
+
+inline Bytes KnownHexCharacters(Bytes value) noexcept {
+    constexpr unsigned kFromNineToA = 'a' - '9' - 1;
+    // Nibbles are small enough for the signed comparison, which every processor has.
+    using SignedBytes = std::int8_t __attribute__((vector_size(16)));
+    const Bytes isLetter =
+        AsMask(reinterpret_cast<SignedBytes>(value) > reinterpret_cast<SignedBytes>(AllBytes(9)));
+    return value + AllBytes('0') + (isLetter & AllBytes(kFromNineToA));
+}
+
+// The rule of DigitCharacter for sixteen digits at once.
+inline Bytes HexCharacters(Bytes aval, Bytes bval) noexcept {
+    const Bytes full = AsMask(bval == AllBytes(15));
+    const Bytes anyX = AsMask((aval & bval) != Bytes{});
+    const Bytes mixed = Select(anyX, AllBytes('X'), AllBytes('Z'));
+    const Bytes uniform = AsMask(aval == AllBytes(15)) | AsMask(aval == Bytes{});
+    const Bytes unknown = mixed | (full & uniform & AllBytes('x' - 'X'));
+    return Select(AsMask(bval == Bytes{}), KnownHexCharacters(aval), unknown);
+}
+static_assert(('X' | ('x' - 'X')) == 'x' && ('Z' | ('x' - 'X')) == 'z');
+
+inline std::uint64_t JoinAvals(Word low, Word high) noexcept {
+    return (low & kValueBits) | (high << kWordBits);
+}
+inline std::uint64_t JoinBvals(Word low, Word high) noexcept {
+    return (low >> kWordBits) | (high & kUnknownBits);
+}
+
+// The 32 digits of four words in front of end.
+inline void WriteHexBlock(char* end, const VectorWord* words) noexcept {
+    const Word w0 = LoadWord(words), w1 = LoadWord(words + 1);
+    const Word w2 = LoadWord(words + 2), w3 = LoadWord(words + 3);
+    const HexDigits aval = SpreadNibbles(JoinAvals(w0, w1), JoinAvals(w2, w3));
+    if (!IsUnknown(w0 | w1 | w2 | w3)) {
+        StoreBytes(end - 32, KnownHexCharacters(aval.upper));
+        StoreBytes(end - 16, KnownHexCharacters(aval.lower));
+        return;
+    }
+    const HexDigits bval = SpreadNibbles(JoinBvals(w0, w1), JoinBvals(w2, w3));
+    StoreBytes(end - 32, HexCharacters(aval.upper, bval.upper));
+    StoreBytes(end - 16, HexCharacters(aval.lower, bval.lower));
+}
+
+// The digits 0 to digitCount - 1 of a vector, the last character (digit 0) at end[-1]; each has all
+// its bits within the vector's words. One for each layout.
+inline void WriteDigits(Binary, char* end, const VectorWord* words,
+                        std::size_t digitCount) noexcept {
+    std::size_t left = digitCount;
+    for (; left >= 32; left -= 32) {
+        WriteBinaryWord(end, LoadWord(words++));
+        end -= 32;
+    }
+    if (left == 0) return;
+    Word word = LoadWord(words);
+    for (; left >= 8; left -= 8) {
+        StoreEight(end - 8, BinaryDigits(Aval(word), Bval(word)));
+        end -= 8;
+        word >>= 8;
+    }
+    WriteSingleDigits<Binary>(end, word, word >> kWordBits, left);
+}
+
+inline void WriteDigits(Octal, char* end, const VectorWord* words,
+                        std::size_t digitCount) noexcept {
+    // Three words are 96 bits: two runs of sixteen digits, 48 bits each.
+    constexpr std::size_t kRun = 16;
+    std::size_t left = digitCount;
+    for (; left >= 2 * kRun; left -= 2 * kRun, words += 3) {
+        const Word low = LoadWord(words), middle = LoadWord(words + 1), high = LoadWord(words + 2);
+        end = WriteSingleDigits<Octal>(end, JoinAvals(low, middle), JoinBvals(low, middle), kRun);
+        end = WriteSingleDigits<Octal>(end, JoinAvals(middle, high) >> 16,
+                                       JoinBvals(middle, high) >> 16, kRun);
+    }
+    std::size_t bit = 0;
+    for (; left > 0; --left, bit += Octal::kBits) {
+        const VectorWord* const from = words + bit / kWordBits;
+        const unsigned offset = bit % kWordBits;
+        const Word low = LoadWord(from);
+        const Word high = offset > kWordBits - Octal::kBits ? LoadWord(from + 1) : Word{0};
+        end = WriteSingleDigits<Octal>(end, JoinAvals(low, high) >> offset,
+                                       JoinBvals(low, high) >> offset, 1);
+    }
+}
+
+inline void WriteDigits(Hexadecimal, char* end, const VectorWord* words,
+                        std::size_t digitCount) noexcept {
+    std::size_t left = digitCount;
+    for (; left >= 32; left -= 32, words += 4, end -= 32) {
+        WriteHexBlock(end, words);
+    }
+    for (; left > 0; left -= std::min<std::size_t>(left, 8)) {
+        const Word word = LoadWord(words++);
+        end = WriteSingleDigits<Hexadecimal>(end, Aval(word), Bval(word),
+                                             std::min<std::size_t>(left, 8));
+    }
+}
+
+}  // namespace tarn
+
+#endif  // TARN_TEXT_WRITE_DIGITS_H
