@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "arith/natural/limb.h"
+#include "arith/pack.h"
 
 namespace tarn {
 namespace {
@@ -26,16 +26,6 @@ struct SpanEnd {
     CarryFlag carry;
     bool unknown;
 };
-
-// Two words' avals as one limb.
-inline Limb PackWords(Word low, Word high) noexcept {
-    return (low & kValueBits) | (high << kWordBits);
-}
-
-inline void StoreLimb(VectorWord* to, Limb limb) noexcept {
-    StoreWord(to, limb & kValueBits);
-    StoreWord(to + 1, limb >> kWordBits);
-}
 
 // result[0 .. count) = a Operation b + carry, eight words a block. Stops behind the block (or the
 // last words) in which an unknown bit turned up. Word i of a and b is read before word i of the
@@ -81,12 +71,6 @@ inline void CombineTwoWords(VectorWord* result, const VectorWord* a, const Vecto
     StoreWord(result + 1, (sum >> kWordBits) | beyond);
 }
 
-// The words of an operand above the result don't enter the value, but an unknown bit there counts.
-inline bool HasUnknownFrom(std::size_t first, Operand operand) noexcept {
-    const std::size_t count = operand.Count();
-    return count > first && HasUnknown(operand.words + first, count - first);
-}
-
 }  // namespace
 
 template <class Operation, class Extend>
@@ -121,10 +105,10 @@ void CombineWide(Result result, Operand a, Operand b) noexcept {
     }
 }
 
-template void CombineWide<Add, SignExtend>(Result, Operand, Operand) noexcept;
-template void CombineWide<Add, ZeroExtend>(Result, Operand, Operand) noexcept;
-template void CombineWide<Subtract, SignExtend>(Result, Operand, Operand) noexcept;
-template void CombineWide<Subtract, ZeroExtend>(Result, Operand, Operand) noexcept;
+template void CombineWide<Addition, SignExtend>(Result, Operand, Operand) noexcept;
+template void CombineWide<Addition, ZeroExtend>(Result, Operand, Operand) noexcept;
+template void CombineWide<Subtraction, SignExtend>(Result, Operand, Operand) noexcept;
+template void CombineWide<Subtraction, ZeroExtend>(Result, Operand, Operand) noexcept;
 
 template <class Extend>
 void PlusWide(Result result, Operand a) noexcept {

@@ -7,12 +7,12 @@
 namespace tarn {
 
 // a + b, or a - b as a + ~b + 1: the two differ in how b enters and in the first carry.
-struct Add {
+struct Addition {
     static constexpr Word kFirstCarry = 0;
     static constexpr std::uint64_t Enter(std::uint64_t b) noexcept { return b; }
 };
 
-struct Subtract {
+struct Subtraction {
     static constexpr Word kFirstCarry = 1;
     static constexpr std::uint64_t Enter(std::uint64_t b) noexcept { return ~b; }
 };
@@ -42,7 +42,7 @@ inline void Negate(Result result, Operand a) noexcept {
         StoreWord(result.words, IsUnknown(word) ? kAllX : (0 - word) & kValueBits);
         return;
     }
-    CombineWide<Subtract, Extend>(result, {0, nullptr}, a);
+    CombineWide<Subtraction, Extend>(result, {0, nullptr}, a);
 }
 
 template <class Extend>

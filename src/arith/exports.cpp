@@ -1,8 +1,31 @@
-// Exports: the operators + and - with two operands and with one, increment and decrement.
+// Exports: the arithmetic operators, increment and decrement.
 #include <tarnlib/arith.h>
 
 #include "arith/add.h"
+#include "arith/power.h"
+#include "arith/product.h"
+#include "arith/quotient.h"
+#include "arith/scratch.h"
 #include "core/contract.h"
+
+// Where the shared register may be used: the first operand is done with before the register is
+// overwritten, the second is not.
+#define TARN_REQUIRE_PRODUCT(resultWidth, result, aWidth, a, bWidth, b)   \
+    TARN_REQUIRE_TWO_OPERANDS(resultWidth, result, aWidth, a, bWidth, b); \
+    TARN_REQUIRE(resultWidth <= kMaxProductWidth);                        \
+    TARN_REQUIRE(IsOutsideRegister(bWidth, b))
+
+#define TARN_REQUIRE_POWER(resultWidth, result, aWidth, a, bWidth, b) \
+    TARN_REQUIRE_PRODUCT(resultWidth, result, aWidth, a, bWidth, b);  \
+    TARN_REQUIRE(bWidth <= kMaxExponentWidth)
+
+#define TARN_REQUIRE_QUOTIENT(resultWidth, result, aWidth, a, bWidth, b)  \
+    TARN_REQUIRE_TWO_OPERANDS(resultWidth, result, aWidth, a, bWidth, b); \
+    TARN_REQUIRE(resultWidth <= kMaxQuotientWidth);                       \
+    TARN_REQUIRE(aWidth <= kMaxQuotientWidth);                            \
+    TARN_REQUIRE(bWidth <= kMaxQuotientWidth);                            \
+    TARN_REQUIRE(IsOutsideRegister(aWidth, a));                           \
+    TARN_REQUIRE(IsOutsideRegister(bWidth, b))
 
 using namespace tarn;
 
@@ -11,25 +34,25 @@ extern "C" {
 void tarn_SignedAdd(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
                     int bWidth, const VectorWord* b) noexcept {
     TARN_REQUIRE_TWO_OPERANDS(resultWidth, result, aWidth, a, bWidth, b);
-    Combine<Add, SignExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+    Combine<Addition, SignExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
 }
 
 void tarn_UnsignedAdd(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
                       int bWidth, const VectorWord* b) noexcept {
     TARN_REQUIRE_TWO_OPERANDS(resultWidth, result, aWidth, a, bWidth, b);
-    Combine<Add, ZeroExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+    Combine<Addition, ZeroExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
 }
 
 void tarn_SignedSub(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
                     int bWidth, const VectorWord* b) noexcept {
     TARN_REQUIRE_TWO_OPERANDS(resultWidth, result, aWidth, a, bWidth, b);
-    Combine<Subtract, SignExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+    Combine<Subtraction, SignExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
 }
 
 void tarn_UnsignedSub(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
                       int bWidth, const VectorWord* b) noexcept {
     TARN_REQUIRE_TWO_OPERANDS(resultWidth, result, aWidth, a, bWidth, b);
-    Combine<Subtract, ZeroExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+    Combine<Subtraction, ZeroExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
 }
 
 void tarn_SignedMinus(int resultWidth, VectorWord* result, int aWidth,
@@ -64,6 +87,66 @@ void tarn_Inc(int width, VectorWord* v) noexcept {
 void tarn_Dec(int width, VectorWord* v) noexcept {
     TARN_REQUIRE_IN_PLACE(width, v);
     Step({width, v}, ~0U);
+}
+
+void tarn_SignedMul(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
+                    int bWidth, const VectorWord* b) noexcept {
+    TARN_REQUIRE_PRODUCT(resultWidth, result, aWidth, a, bWidth, b);
+    Multiply<SignExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+}
+
+void tarn_UnsignedMul(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
+                      int bWidth, const VectorWord* b) noexcept {
+    TARN_REQUIRE_PRODUCT(resultWidth, result, aWidth, a, bWidth, b);
+    Multiply<ZeroExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+}
+
+void tarn_SignedDiv(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
+                    int bWidth, const VectorWord* b) noexcept {
+    TARN_REQUIRE_QUOTIENT(resultWidth, result, aWidth, a, bWidth, b);
+    Divide<SignExtend, Wanted::kQuotient>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+}
+
+void tarn_UnsignedDiv(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
+                      int bWidth, const VectorWord* b) noexcept {
+    TARN_REQUIRE_QUOTIENT(resultWidth, result, aWidth, a, bWidth, b);
+    Divide<ZeroExtend, Wanted::kQuotient>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+}
+
+void tarn_SignedMod(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
+                    int bWidth, const VectorWord* b) noexcept {
+    TARN_REQUIRE_QUOTIENT(resultWidth, result, aWidth, a, bWidth, b);
+    Divide<SignExtend, Wanted::kRemainder>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+}
+
+void tarn_UnsignedMod(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
+                      int bWidth, const VectorWord* b) noexcept {
+    TARN_REQUIRE_QUOTIENT(resultWidth, result, aWidth, a, bWidth, b);
+    Divide<ZeroExtend, Wanted::kRemainder>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+}
+
+void tarn_SignedUPower(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
+                       int bWidth, const VectorWord* b) noexcept {
+    TARN_REQUIRE_POWER(resultWidth, result, aWidth, a, bWidth, b);
+    PowerUnsigned<SignExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+}
+
+void tarn_UnsignedUPower(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
+                         int bWidth, const VectorWord* b) noexcept {
+    TARN_REQUIRE_POWER(resultWidth, result, aWidth, a, bWidth, b);
+    PowerUnsigned<ZeroExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+}
+
+void tarn_SignedSPower(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
+                       int bWidth, const VectorWord* b) noexcept {
+    TARN_REQUIRE_POWER(resultWidth, result, aWidth, a, bWidth, b);
+    PowerSigned<SignExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
+}
+
+void tarn_UnsignedSPower(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a,
+                         int bWidth, const VectorWord* b) noexcept {
+    TARN_REQUIRE_POWER(resultWidth, result, aWidth, a, bWidth, b);
+    PowerSigned<ZeroExtend>({resultWidth, result}, {aWidth, a}, {bWidth, b});
 }
 
 }  // extern "C"

@@ -33,6 +33,12 @@ inline bool AreSameOrApart(int aWidth, const VectorWord* a, int bWidth,
            bFirst + WordCount(bWidth) * sizeof(VectorWord) <= aFirst;
 }
 
+// Whether a vector lies outside the register that generated code and some operations share.
+inline bool IsOutsideRegister(int width, const VectorWord* words) noexcept {
+    return words != tarn_VectorRegister &&
+           AreSameOrApart(width, words, 32 * TARN_VECTOR_REGISTER_WORDS, tarn_VectorRegister);
+}
+
 #if defined(TARNLIB_CHECKED)
 
 [[noreturn]] void ReportBrokenDuty(const char* function, const char* duty,

@@ -45,6 +45,13 @@ inline Word ExtensionWord(Operand operand) noexcept {
     return operand.width < 1 ? 0 : Extend::Beyond(LoadWord(operand.words + operand.Count() - 1));
 }
 
+// Whether the top bit of the width or a bit stored above it is set in aval.
+inline bool AreTopBitsSet(Operand operand) noexcept {
+    return operand.width >= 1 && operand.words[operand.Count() - 1].aval >>
+                                         (static_cast<unsigned>(operand.width) - 1U) % 32U !=
+                                     0;
+}
+
 }  // namespace tarn
 
 #endif  // TARN_CORE_VECTOR_H

@@ -48,6 +48,12 @@ inline bool HasUnknown(const VectorWord* words, std::size_t count) noexcept {
     return IsUnknown(all);
 }
 
+// Words of an operand above the result don't enter a value, but an unknown bit there counts.
+inline bool HasUnknownFrom(std::size_t first, Operand operand) noexcept {
+    const std::size_t count = operand.Count();
+    return count > first && HasUnknown(operand.words + first, count - first);
+}
+
 }  // namespace tarn
 
 #endif  // TARN_CORE_WORDS_H

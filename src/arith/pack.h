@@ -1,0 +1,45 @@
+// Vectors as naturals and back: two words' avals make one limb.
+#ifndef TARN_ARITH_PACK_H
+#define TARN_ARITH_PACK_H
+
+#include "arith/natural/limb.h"
+#include "core/words.h"
+
+namespace tarn {
+
+constexpr std::size_t LimbCount(std::size_t wordCount) noexcept {
+    return (wordCount + 1) / 2;
+}
+
+constexpr Limb PackWords(Word low, Word high) noexcept {
+    return (low & kValueBits) | (high << kWordBits);
+}
+
+inline void StoreLimb(VectorWord* to, Limb limb) noexcept {
+    StoreWord(to, limb & kValueBits);
+    StoreWord(to + 1, limb >> kWordBits);
+}
+
+// limbs[0 .. LimbCount(count)) = the value of known words; false, with the limbs unspecified, where
+// a word has an unknown bit.
+bool PackKnown(Limb* limbs, const VectorWord* words, std::size_t count) noexcept;
+
+// A whole number with its sign: limbs[0 .. count) without zeros at the top.
+struct Whole {
+    Limb* limbs;
+    std::size_t count;
+    bool negative;
+};
+
+// The value of the low `wordCount` (at most its own count) words of an operand in
+// limbs[0 .. LimbCount(wordCount)); with SignExtend bit 31 of the last of them is the sign. False
+// where one of these words has an unknown bit.
+template <class Extend>
+bool PackWhole(Whole* whole, Limb* limbs, Operand operand, std::size_t wordCount) noexcept;
+
+// result = value, continued above its limbs by its sign and cut where the result ends.
+void StoreWhole(Result result, Whole value) noexcept;
+
+}  // namespace tarn
+
+#endif  // TARN_ARITH_PACK_H

@@ -1,0 +1,136 @@
+#include "arith/product.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "arith/natural/multiply.h"
+#include "arith/natural/multiply_internal.h"
+#include "arith/natural/span.h"
+#include "arith/scratch.h"
+
+namespace tarn {
+namespace {
+
+// Up to this many limbs the operands are extended to the result's words on the stack and multiplied
+// as they are: finding their significant limbs would cost more than it saves.
+constexpr std::size_t kShortLimbs = 8;
+
+template <class Extend>
+bool PackExtended(Limb* limbs, Operand operand, std::size_t wordCount) noexcept {
+    const std::size_t own = std::min(operand.Count(), wordCount);
+    if (!PackKnown(limbs, operand.words, own)) return false;
+    if (own == wordCount) return true;
+    const Limb beyond = ExtensionWord<Extend>(operand) != 0 ? ~Limb{0} : Limb{0};
+    if (own % 2 != 0) {
+        limbs[own / 2] |= beyond << kWordBits;
+    }
+    std::fill(limbs + LimbCount(own), limbs + LimbCount(wordCount), beyond);
+    return true;
+}
+
+template <class Extend>
+bool MultiplyShort(Result result, Operand a, Operand b) noexcept {
+    const std::size_t words = result.Count();
+    const std::size_t limbs = LimbCount(words);
+    Limb aLimbs[kShortLimbs], bLimbs[kShortLimbs], product[kShortLimbs];
+    if (!PackExtended<Extend>(aLimbs, a, words) || !PackExtended<Extend>(bLimbs, b, words)) {
+        return false;
+    }
+    MultiplyLowBasecase(product, aLimbs, bLimbs, limbs);
+    StoreWhole(result, {product, limbs, false});
+    return true;
+}
+
+// Whether most of a product of two operands at least this long lies above the limit.
+bool NearlyFills(std::size_t count, std::size_t limit) noexcept {
+    return 4 * count >= 3 * limit;
+}
+
+// The operand's limbs with zeros up to `count`, copied to `room` where there are any to add.
+const Limb* Padded(Whole whole, std::size_t count, Limb* room) noexcept {
+    if (whole.count == count) return whole.limbs;
+    std::copy(whole.limbs, whole.limbs + whole.count, room);
+    std::fill(room + whole.count, room + count, Limb{0});
+    return room;
+}
+
+// The product modulo 2^(32 * words) is the same for operands cut to the result's words, and for
+// signed ones whichever of the residues x and x - 2^(32 * words) stands for an operand: the smaller
+// magnitude is the one with fewer limbs.
+template <class Extend>
+bool MultiplyLong(Result result, Operand a, Operand b) noexcept {
+    const std::size_t words = result.Count();
+    const std::size_t limbs = LimbCount(words);
+    Scratch scratch;
+    Whole aWhole, bWhole;
+    if (!PackWhole<Extend>(&aWhole, scratch.Take(limbs), a, std::min(a.Count(), words))) {
+        return false;
+    }
+    if (a.words == b.words && a.width == b.width) {
+        bWhole = aWhole;
+    } else if (!PackWhole<Extend>(&bWhole, scratch.Take(limbs), b, std::min(b.Count(), words))) {
+        return false;
+    }
+    Limb* const product = scratch.Take(std::max(aWhole.count + bWhole.count, limbs));
+    Limb* const temporary = scratch.Take(LowProductScratch(aWhole.count, bWhole.count, limbs));
+    const std::size_t count = LowProduct(product, aWhole, bWhole, limbs, temporary);
+    StoreWhole(result, {product, count, aWhole.negative != bWhole.negative});
+    return true;
+}
+
+}  // namespace
+
+std::size_t LowProduct(Limb* product, Whole a, Whole b, std::size_t limit, Limb* scratch) noexcept {
+    a.count = std::min(a.count, limit);
+    b.count = std::min(b.count, limit);
+    if (a.count == 0 || b.count == 0) return 0;
+    if (a.count < b.count) {
+        std::swap(a, b);
+    }
+    if (a.limbs == b.limbs && a.count == b.count) {
+        Square(product, a.limbs, a.count, scratch);
+    } else if (NearlyFills(b.count, limit)) {
+        const Limb* const low = Padded(a, limit, scratch);
+        MultiplyLow(product, low, Padded(b, limit, scratch + limit), limit, scratch + 2 * limit);
+        return NormalisedCount(product, limit);
+    } else {
+        Multiply(product, a.limbs, a.count, b.limbs, b.count, scratch);
+    }
+    return NormalisedCount(product, std::min(a.count + b.count, limit));
+}
+
+std::size_t LowProductScratch(std::size_t aCount, std::size_t bCount, std::size_t limit) noexcept {
+    const std::size_t longer = std::clamp<std::size_t>(std::max(aCount, bCount), 1, limit);
+    const std::size_t shorter = std::clamp<std::size_t>(std::min(aCount, bCount), 1, limit);
+    std::size_t most = std::max(MultiplyScratch(longer, shorter), SquareScratch(longer));
+    if (NearlyFills(shorter, limit)) {
+        most = std::max(most, 2 * limit + MultiplyLowScratch(limit));
+    }
+    return most;
+}
+
+template <class Extend>
+void MultiplyWide(Result result, Operand a, Operand b) noexcept {
+    if (AreTwoWords(result.width, a.width, b.width)) {
+        const Word a0 = LoadWord(a.words), a1 = LoadWord(a.words + 1);
+        const Word b0 = LoadWord(b.words), b1 = LoadWord(b.words + 1);
+        const Word beyond = IsUnknown(a0 | a1 | b0 | b1) ? kAllX : 0;
+        const Limb product = PackWords(a0, a1) * PackWords(b0, b1);
+        StoreWord(result.words, (product & kValueBits) | beyond);
+        StoreWord(result.words + 1, (product >> kWordBits) | beyond);
+        return;
+    }
+    const std::size_t count = result.Count();
+    if (count == 0) return;
+    const bool known = !HasUnknownFrom(count, a) && !HasUnknownFrom(count, b) &&
+                       (LimbCount(count) <= kShortLimbs ? MultiplyShort<Extend>(result, a, b)
+                                                        : MultiplyLong<Extend>(result, a, b));
+    if (!known) {
+        FillX(result);
+    }
+}
+
+template void MultiplyWide<SignExtend>(Result, Operand, Operand) noexcept;
+template void MultiplyWide<ZeroExtend>(Result, Operand, Operand) noexcept;
+
+}  // namespace tarn

@@ -1,0 +1,58 @@
+#include "arith/quotient.h"
+
+#include "arith/natural/divide.h"
+#include "arith/natural/span.h"
+#include "arith/pack.h"
+#include "arith/scratch.h"
+
+namespace tarn {
+namespace {
+
+template <Wanted kWanted>
+Whole DivideWholes(Whole a, Whole b, Scratch* scratch) noexcept {
+    constexpr bool kRemainder = kWanted == Wanted::kRemainder;
+    const bool negative = kRemainder ? a.negative : a.negative != b.negative;
+    if (a.count < b.count || (a.count == b.count && Compare(a.limbs, b.limbs, a.count) < 0)) {
+        return kRemainder ? a : Whole{a.limbs, 0, false};
+    }
+    const std::size_t count = kRemainder ? b.count : a.count - b.count + 1;
+    Limb* const limbs = scratch->Take(count);
+    Divide(kRemainder ? nullptr : limbs, kRemainder ? limbs : nullptr, a.limbs, a.count, b.limbs,
+           b.count, scratch->Take(DivideScratch(a.count, b.count)));
+    return {limbs, NormalisedCount(limbs, count), negative};
+}
+
+}  // namespace
+
+template <class Extend, Wanted kWanted>
+void DivideWide(Result result, Operand a, Operand b) noexcept {
+    if (result.width < 1) return;
+    if (AreTwoWords(result.width, a.width, b.width)) {
+        const Word a0 = LoadWord(a.words), a1 = LoadWord(a.words + 1);
+        const Word b0 = LoadWord(b.words), b1 = LoadWord(b.words + 1);
+        const Limb divisor = PackWords(b0, b1);
+        if (IsUnknown(a0 | a1 | b0 | b1) || divisor == 0) {
+            FillX(result);
+            return;
+        }
+        StoreLimb(result.words, DivideSmall<Extend, kWanted>(PackWords(a0, a1), divisor));
+        return;
+    }
+    Scratch scratch;
+    Whole dividend, divisor;
+    Limb* const aLimbs = scratch.Take(LimbCount(a.Count()));
+    Limb* const bLimbs = scratch.Take(LimbCount(b.Count()));
+    if (!PackWhole<Extend>(&divisor, bLimbs, b, b.Count()) || divisor.count == 0 ||
+        !PackWhole<Extend>(&dividend, aLimbs, a, a.Count())) {
+        FillX(result);
+        return;
+    }
+    StoreWhole(result, DivideWholes<kWanted>(dividend, divisor, &scratch));
+}
+
+template void DivideWide<SignExtend, Wanted::kQuotient>(Result, Operand, Operand) noexcept;
+template void DivideWide<ZeroExtend, Wanted::kQuotient>(Result, Operand, Operand) noexcept;
+template void DivideWide<SignExtend, Wanted::kRemainder>(Result, Operand, Operand) noexcept;
+template void DivideWide<ZeroExtend, Wanted::kRemainder>(Result, Operand, Operand) noexcept;
+
+}  // namespace tarn

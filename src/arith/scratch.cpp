@@ -1,0 +1,7 @@
+#include "arith/scratch.h"
+
+namespace tarn {
+
+alignas(64) Limb scratchLimbs[kScratchLimbs];
+
+}  // namespace tarn
