@@ -184,6 +184,12 @@ void BasecaseSquare(Limb* result, const Limb* a, const Limb*, std::size_t count,
 void BasecaseLow(Limb* result, const Limb* a, const Limb* b, std::size_t count, Limb*) {
     MultiplyLowBasecase(result, a, b, count);
 }
+void Transform(Limb* result, const Limb* a, const Limb* b, std::size_t count, Limb* scratch) {
+    MultiplyNtt(result, a, count, b, count, scratch);
+}
+std::size_t TransformScratch(std::size_t count) {
+    return MultiplyNttScratch(count, count);
+}
 void AnyBalanced(Limb* result, const Limb* a, const Limb* b, std::size_t count, Limb* scratch) {
     Multiply(result, a, count, b, count, scratch);
 }
@@ -204,6 +210,10 @@ std::vector<Form> Forms() {
                  Range(kKaratsubaMinimum, 3 * k)),
         Squared("square Karatsuba", MultiplyKaratsuba, MultiplyKaratsubaScratch,
                 Range(kKaratsubaMinimum, 3 * k)),
+        Balanced("Toom 3", MultiplyToom3, MultiplyToom3Scratch, Range(kToom3Minimum, 5 * k)),
+        Squared("square Toom 3", MultiplyToom3, MultiplyToom3Scratch, Range(kToom3Minimum, 5 * k)),
+        Balanced("transform", Transform, TransformScratch, Range(1, 70)),
+        Squared("square transform", Transform, TransformScratch, Range(1, 70)),
         Low("Mulders", MultiplyLowMulders, MultiplyLowMuldersScratch,
             Range(kMuldersMinimum, 3 * k)),
         Balanced("any", AnyBalanced, AnyBalancedScratch,

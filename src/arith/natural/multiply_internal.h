@@ -29,6 +29,15 @@ void MultiplyKaratsuba(Limb* result, const Limb* a, const Limb* b, std::size_t c
                        Limb* scratch) noexcept;
 std::size_t MultiplyKaratsubaScratch(std::size_t count) noexcept;
 
+// One step of Toom's method in three parts, count >= kToom3Minimum; the same operands as above.
+inline constexpr std::size_t kToom3Minimum = 5;
+constexpr std::size_t CountOfThird(std::size_t count) noexcept {
+    return (count + 2) / 3;
+}
+void MultiplyToom3(Limb* result, const Limb* a, const Limb* b, std::size_t count,
+                   Limb* scratch) noexcept;
+std::size_t MultiplyToom3Scratch(std::size_t count) noexcept;
+
 // An operand of aCount limbs cut into pieces of the other's bCount, aCount >= bCount >= 1.
 void MultiplyPieces(Limb* result, const Limb* a, std::size_t aCount, const Limb* b,
                     std::size_t bCount, Limb* scratch) noexcept;
@@ -39,6 +48,12 @@ inline constexpr std::size_t kMuldersMinimum = 4;
 void MultiplyLowMulders(Limb* result, const Limb* a, const Limb* b, std::size_t count,
                         Limb* scratch) noexcept;
 std::size_t MultiplyLowMuldersScratch(std::size_t count) noexcept;
+
+// By number-theoretic transforms, both counts at least 1. A null b stands for a itself; bCount is
+// then aCount.
+void MultiplyNtt(Limb* result, const Limb* a, std::size_t aCount, const Limb* b, std::size_t bCount,
+                 Limb* scratch) noexcept;
+std::size_t MultiplyNttScratch(std::size_t aCount, std::size_t bCount) noexcept;
 
 }  // namespace tarn
 
