@@ -15,13 +15,14 @@ namespace tarn {
 inline constexpr std::size_t kChunkDigits = 19;
 inline constexpr Limb kChunkPower = 10'000'000'000'000'000'000U;
 
-// 10^(19 * chunks) = limbs[0 .. count) * 2^(64 * zeros). Nearly a third of a power of ten is
+// 10^(19 * chunks) * 2^shift = limbs[0 .. count) * 2^(64 * zeros). Nearly a third of a power of ten is
 // trailing zero bits; leaving the whole limbs of them out shortens every product and division.
 struct DecimalPower {
-    const Limb* limbs;
+    Limb* limbs;
     std::size_t count;
     std::size_t zeros;
     std::size_t chunks;
+    int shift;
 };
 
 // Powers for halving a number of `chunks` chunks again and again: the one at `depth` has
@@ -32,6 +33,9 @@ class DecimalPowers {
     // `storage` holds StorageLimbs(chunks) and lives as long as the powers; `scratch` is needed
     // only while they are built.
     DecimalPowers(std::size_t chunks, Limb* storage, Limb* scratch) noexcept;
+
+    // Shifts each power until its top bit is set, as a divisor's must be; until then each shift is 0.
+    void Normalise() noexcept;
 
     static std::size_t StorageLimbs(std::size_t chunks) noexcept;
     static std::size_t ScratchLimbs(std::size_t chunks) noexcept;
@@ -50,6 +54,7 @@ class DecimalPowers {
     const DecimalPower& At(std::size_t depth) const noexcept { return powers_[depth]; }
 
   private:
+    std::size_t depths_;
     std::array<DecimalPower, kLimbBits> powers_;
 };
 

@@ -9,10 +9,6 @@
 namespace tarn {
 namespace {
 
-bool IsSchoolbook(std::size_t quotientCount, std::size_t dCount) noexcept {
-    return std::min(quotientCount, dCount) < kDivideHalvesLimbs;
-}
-
 void DivideByOneOrTwo(Limb* quotient, Limb* remainder, const Limb* a, std::size_t aCount,
                       const Limb* d, std::size_t dCount) noexcept {
     if (dCount == 1) {
@@ -29,14 +25,24 @@ void DivideByOneOrTwo(Limb* quotient, Limb* remainder, const Limb* a, std::size_
 
 }  // namespace
 
+Limb DivideNormalised(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d,
+                      std::size_t dCount, const TopDivisor& top, Limb* scratch) noexcept {
+    if (std::min(aCount - dCount, dCount) < kDivideHalvesLimbs) {
+        return DivideSchoolbook(quotient, a, aCount, d, dCount, top);
+    }
+    return DivideByHalves(quotient, a, aCount, d, dCount, top, kDivideHalvesLimbs, scratch);
+}
+
+std::size_t DivideNormalisedScratch(std::size_t aCount, std::size_t dCount) noexcept {
+    return std::min(aCount, dCount) < kDivideHalvesLimbs ? 0 : DivideByHalvesScratch(dCount);
+}
+
 std::size_t DivideScratch(std::size_t aCount, std::size_t dCount) noexcept {
     if (dCount <= 2) return 0;
     const std::size_t quotientCount = aCount - dCount + 1;
     // The shifted operands and, if the caller does not want it, the quotient.
     const std::size_t copies = aCount + 1 + dCount + quotientCount;
-    if (IsSchoolbook(quotientCount, dCount)) return copies;
-    return copies + std::max(DivideByHalvesScratch(aCount, dCount),
-                             DivideByHalvesScratch(aCount + 1, dCount));
+    return copies + DivideNormalisedScratch(aCount + 1, dCount);
 }
 
 void Divide(Limb* quotient, Limb* remainder, const Limb* a, std::size_t aCount, const Limb* d,
@@ -67,10 +73,7 @@ void Divide(Limb* quotient, Limb* remainder, const Limb* a, std::size_t aCount, 
     std::size_t count = aCount;
     if (above != 0) dividend[count++] = above;
     const TopDivisor top(d[dCount - 1], d[dCount - 2]);
-    const Limb high = IsSchoolbook(quotientCount, dCount)
-                          ? DivideSchoolbook(quotient, dividend, count, d, dCount, top)
-                          : DivideByHalves(quotient, dividend, count, d, dCount, top,
-                                           kDivideHalvesLimbs, scratch);
+    const Limb high = DivideNormalised(quotient, dividend, count, d, dCount, top, scratch);
     if (above == 0) quotient[quotientCount - 1] = high;
     if (remainder == nullptr) return;
     if (shift == 0) {

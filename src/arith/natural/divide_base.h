@@ -30,7 +30,13 @@ Limb DivideSchoolbook(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d
 // By halves, which go to DivideSchoolbook below `leafCount` limbs; leafCount is at least 4.
 Limb DivideByHalves(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d, std::size_t dCount,
                     const TopDivisor& top, std::size_t leafCount, Limb* scratch) noexcept;
-std::size_t DivideByHalvesScratch(std::size_t aCount, std::size_t dCount) noexcept;
+std::size_t DivideByHalvesScratch(std::size_t dCount) noexcept;
+
+// By whichever is fastest.
+Limb DivideNormalised(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d,
+                      std::size_t dCount, const TopDivisor& top, Limb* scratch) noexcept;
+// Enough for any operands up to these counts.
+std::size_t DivideNormalisedScratch(std::size_t aCount, std::size_t dCount) noexcept;
 
 }  // namespace tarn
 

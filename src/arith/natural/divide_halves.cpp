@@ -4,6 +4,7 @@
 
 #include "arith/natural/divide_base.h"
 #include "arith/natural/multiply.h"
+#include "arith/natural/product_scratch.h"
 #include "arith/natural/span.h"
 
 namespace tarn {
@@ -68,13 +69,9 @@ Limb DivideByHalves(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d, 
     return high;
 }
 
-std::size_t DivideByHalvesScratch(std::size_t aCount, std::size_t dCount) noexcept {
-    const std::size_t first = FirstPart(aCount - dCount, dCount);
-    std::size_t most = MultiplyScratch(dCount - dCount / 2, dCount / 2);
-    if (first != 0 && first < dCount) {
-        most = std::max(most, MultiplyScratch(first, dCount - first));
-    }
-    return dCount + most;
+std::size_t DivideByHalvesScratch(std::size_t dCount) noexcept {
+    // The factors of a product have dCount limbs together.
+    return dCount + ProductScratch(dCount, dCount - dCount / 2);
 }
 
 }  // namespace tarn

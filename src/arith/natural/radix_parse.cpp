@@ -6,6 +6,7 @@
 
 #include "arith/natural/decimal_power.h"
 #include "arith/natural/multiply.h"
+#include "arith/natural/product_scratch.h"
 #include "arith/natural/radix.h"
 #include "arith/natural/span.h"
 #include "arith/natural/thresholds.h"
@@ -118,7 +119,7 @@ std::size_t ParseByHalvesScratch(std::size_t digitCount, std::size_t leafChunks)
         const std::size_t low = chunks >> (depth + 1);
         const std::size_t power = DecimalPowers::MostLimbs(low);
         held += part - low + power;
-        most = std::max(most, held + MultiplyScratch(part - low, power));
+        most = std::max(most, held + ProductScratch(part - low, power));
     }
     return DecimalPowers::StorageLimbs(chunks) + most;
 }

@@ -19,6 +19,9 @@ inline constexpr std::size_t kParseHalvesChunks = 40;
 // Limbs of divisor and of quotient from which both are halved; below, one quotient limb at a time.
 inline constexpr std::size_t kDivideHalvesLimbs = 20;
 
+// Limbs up to which digits are taken off chunk by chunk; above, the number is cut into halves.
+inline constexpr std::size_t kFormatHalvesLimbs = 12;
+
 }  // namespace tarn
 
 #endif  // TARN_ARITH_NATURAL_THRESHOLDS_H
