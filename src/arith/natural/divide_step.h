@@ -25,13 +25,14 @@ struct LimbDivisor {
     // remainder. The candidate is one too great or right, rarely one too small; comparing the
     // remainder with the fraction that the estimate dropped tells which (theorem 3).
     constexpr Limb Step(Limb* remainder, Limb next) const noexcept {
-        const DoubleLimb estimate =
-            MultiplyLimbs(reciprocal, *remainder) + MakeDoubleLimb(*remainder, next);
-        Limb quotient = HighLimb(estimate) + 1;
+        const DoubleLimb product = MultiplyLimbs(reciprocal, *remainder);
+        const Limb fraction = LowLimb(product) + next;
+        Limb quotient = HighLimb(product) + *remainder + (fraction < next ? 1U : 0U) + 1;
         Limb rest = next - quotient * divisor;
-        const Limb tooGreat = rest > LowLimb(estimate) ? ~Limb{0} : 0;
-        quotient += tooGreat;
-        rest += tooGreat & divisor;
+        if (rest > fraction) {
+            --quotient;
+            rest += divisor;
+        }
         if (rest >= divisor) [[unlikely]] {
             ++quotient;
             rest -= divisor;

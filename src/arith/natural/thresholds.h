@@ -20,7 +20,7 @@ inline constexpr std::size_t kParseHalvesChunks = 40;
 inline constexpr std::size_t kDivideHalvesLimbs = 20;
 
 // Limbs up to which digits are taken off chunk by chunk; above, the number is cut into halves.
-inline constexpr std::size_t kFormatHalvesLimbs = 12;
+inline constexpr std::size_t kFormatHalvesLimbs = 30;
 
 }  // namespace tarn
 
