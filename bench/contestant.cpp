@@ -1,0 +1,28 @@
+#include "contestant.h"
+
+#include <cstring>
+
+namespace tarn::bench {
+
+std::string ResultBytes(const Operands& operands) {
+    std::string bytes(operands.wordCount * sizeof(VectorWord), '\0');
+    std::memcpy(bytes.data(), operands.result, bytes.size());
+    return bytes;
+}
+
+void UnpackResultLimbs(const Operands& operands) {
+    for (std::size_t i = 0; i < operands.wordCount; ++i) {
+        const mp_limb_t limb = operands.resultLimbs[i / 2];
+        operands.result[i] = {static_cast<std::uint32_t>(limb >> (i % 2 * 32)), 0};
+    }
+}
+
+std::string DigitText(const Operands& operands, std::size_t digitCount) {
+    std::string text;
+    for (std::size_t i = 0; i < digitCount; ++i) {
+        text += kDigitCharacters[operands.resultDigits[i]];
+    }
+    return text;
+}
+
+}  // namespace tarn::bench

@@ -1,0 +1,88 @@
+#include "operations.h"
+
+#include <tarnlib.h>
+
+#include "ours.h"
+#include "peers.h"
+
+namespace tarn::bench {
+namespace {
+
+using Ladder = std::vector<Versus>;
+
+constexpr const char* kOurs = "tarnlib";
+
+constexpr Contestant kFloor{"floor", Measure<CallNothing>, nullptr};
+constexpr Contestant kMemcpy = WritesWords<CopyBytes>("memcpy");
+constexpr Contestant kMpnAdd = WritesLimbs<BinaryLimbs<mpn_add_n>>("mpn_add_n");
+constexpr Contestant kMpnSub = WritesLimbs<BinaryLimbs<mpn_sub_n>>("mpn_sub_n");
+constexpr Contestant kMpnNeg = WritesLimbs<NegateLimbs>("mpn_neg");
+
+// These only say what is right.
+constexpr Contestant kMpnAddOne = WritesLimbs<IncrementLimbs>("mpn_add_1");
+constexpr Contestant kMpnSubOne = WritesLimbs<DecrementLimbs>("mpn_sub_1");
+constexpr Contestant kInteger32 = WritesLimbs<LimbOfValue<kInteger>>("value");
+constexpr Contestant kInteger64 = WritesLimbs<LimbOfValue<kLongInteger>>("value");
+constexpr Contestant kField = WritesWords<FieldBitByBit>("bit by bit");
+
+// The portable form of addition has the carry chain of one limb at a time; the vector form that the
+// lower limit is meant for needs AVX-512.
+double WideSumLimit() {
+#if defined(__x86_64__)
+    if (__builtin_cpu_supports("avx512f") != 0) return 2.0;
+#endif
+    return 6.0;
+}
+
+Ladder WithTail(Ladder ladder, const Ladder& tail) {
+    ladder.insert(ladder.end(), tail.begin(), tail.end());
+    return ladder;
+}
+
+// Up to 64 bits the call itself is what an operation is measured by.
+const Ladder kMove = {{1, 32, kFloor, 2.0}, {64, 64, kFloor, 3.0}};
+const Ladder kCompute = {{1, 32, kFloor, 2.5}, {64, 64, kFloor, 3.0}};
+const Ladder kUnlimited = {{1, 64, kFloor, kNoLimit}};
+
+const Ladder kCopy =
+    WithTail(kMove, {{128, 512, kMemcpy, kNoLimit}, {4096, kWidest, kMemcpy, 1.3}});
+const Ladder kStep = WithTail(kMove, {{128, kWidest, kMemcpy, kNoLimit}});
+const Ladder kSelect = WithTail(kUnlimited, {{128, kWidest, kMemcpy, kNoLimit}});
+const Ladder kNegate = WithTail(kCompute, {{128, kWidest, kMpnNeg, kNoLimit}});
+
+Ladder Sum(const Contestant& peer) {
+    return WithTail(kCompute, {{128, 512, peer, kNoLimit}, {4096, kWidest, peer, WideSumLimit()}});
+}
+
+constexpr Shape kHalf{.bShare = 2};
+constexpr Shape kSignedHalf{.isSigned = true, .bShare = 2};
+constexpr Shape kInPlace{.inPlace = true};
+
+template <auto kCall>
+constexpr Contestant kWords = WritesWords<kCall>(kOurs);
+
+}  // namespace
+
+const std::vector<Operation>& Operations() {
+    static const std::vector<Operation> operations = {
+        {"SignedCopy", kSigned, kWords<Unary<tarn_SignedCopy>>, kMemcpy, kCopy},
+        {"UnsignedCopy", kUnsigned, kWords<Unary<tarn_UnsignedCopy>>, kMemcpy, kCopy},
+        {"SignedConvert", kSigned, kWords<OfValue<tarn_SignedConvert, kInteger>>, kInteger32,
+         kMove},
+        {"UnsignedConvertLong", kUnsigned, kWords<OfValue<tarn_UnsignedConvertLong, kLongInteger>>,
+         kInteger64, kMove},
+        {"UnsignedPlus", kUnsigned, kWords<Unary<tarn_UnsignedPlus>>, kMemcpy, kStep},
+        {"Inc", kInPlace, kWords<InPlace<tarn_Inc>>, kMpnAddOne, kStep},
+        {"Dec", kInPlace, kWords<InPlace<tarn_Dec>>, kMpnSubOne, kStep},
+        {"SignedAdd", kSigned, kWords<Binary<tarn_SignedAdd>>, kMpnAdd, Sum(kMpnAdd)},
+        {"UnsignedAdd", kUnsigned, kWords<Binary<tarn_UnsignedAdd>>, kMpnAdd, Sum(kMpnAdd)},
+        {"UnsignedSub", kUnsigned, kWords<Binary<tarn_UnsignedSub>>, kMpnSub, Sum(kMpnSub)},
+        {"SignedMinus", kSigned, kWords<Unary<tarn_SignedMinus>>, kMpnNeg, kNegate},
+        {"SignedAddHalf", kSignedHalf, kWords<Binary<tarn_SignedAdd>>, kMpnAdd, Sum(kMpnAdd)},
+        {"UnsignedAddHalf", kHalf, kWords<Binary<tarn_UnsignedAdd>>, kMpnAdd, Sum(kMpnAdd)},
+        {"Partselect", kUnsigned, kWords<OfField<tarn_Partselect>>, kField, kSelect},
+    };
+    return operations;
+}
+
+}  // namespace tarn::bench

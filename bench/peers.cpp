@@ -1,0 +1,56 @@
+#include "peers.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace tarn::bench {
+namespace {
+
+struct Bit {
+    std::uint32_t aval, bval;
+};
+
+Bit BitOf(const VectorWord* words, int index) {
+    const VectorWord& word = words[index / 32];
+    return {(word.aval >> (index % 32)) & 1U, (word.bval >> (index % 32)) & 1U};
+}
+
+// The digit whose bits are [first, last) of the words.
+char MixedDigit(const VectorWord* words, int first, int last) {
+    int xCount = 0;
+    int zCount = 0;
+    unsigned value = 0;
+    for (int i = last - 1; i >= first; --i) {
+        const Bit bit = BitOf(words, i);
+        xCount += bit.bval != 0 && bit.aval != 0 ? 1 : 0;
+        zCount += bit.bval != 0 && bit.aval == 0 ? 1 : 0;
+        value = 2 * value + bit.aval;
+    }
+    if (xCount != 0) return xCount == last - first ? 'x' : 'X';
+    if (zCount != 0) return zCount == last - first ? 'z' : 'Z';
+    return kDigitCharacters[value];
+}
+
+}  // namespace
+
+void FieldBitByBit(const Operands& o) {
+    std::fill_n(o.result, o.wordCount, VectorWord{0, 0});
+    for (int i = 0; i < o.width; ++i) {
+        const Bit bit = BitOf(o.mixed, i + static_cast<int>(kFieldOffset));
+        VectorWord& word = o.result[i / 32];
+        word.aval |= bit.aval << (i % 32);
+        word.bval |= bit.bval << (i % 32);
+    }
+}
+
+std::string MixedDigits(const Operands& o) {
+    const int bitsPerDigit = std::countr_zero(static_cast<unsigned>(o.radix));
+    std::string text;
+    for (int first = 0; first < o.width; first += bitsPerDigit) {
+        text += MixedDigit(o.mixed, first, std::min(first + bitsPerDigit, o.width));
+    }
+    std::reverse(text.begin(), text.end());
+    return text;
+}
+
+}  // namespace tarn::bench

@@ -1,0 +1,62 @@
+// What the exports are measured against, and the plain definitions that the results of those
+// without a computing peer are compared with.
+#ifndef TARN_BENCH_PEERS_H
+#define TARN_BENCH_PEERS_H
+
+#include <cstring>
+#include <string>
+
+#include "floor.h"
+#include "operands.h"
+
+namespace tarn::bench {
+
+inline void CallNothing(const Operands& o) {
+    FloorCall(o.width, o.result, o.width, o.a, o.bWidth, o.b);
+}
+
+inline void CopyBytes(const Operands& o) {
+    std::memcpy(o.result, o.a, o.wordCount * sizeof(VectorWord));
+}
+
+template <auto kFunction>
+mp_limb_t BinaryLimbs(const Operands& o) {
+    return kFunction(o.resultLimbs, o.aLimbs, o.bLimbs, o.limbCount);
+}
+
+inline mp_limb_t NegateLimbs(const Operands& o) {
+    return mpn_neg(o.resultLimbs, o.aLimbs, o.limbCount);
+}
+
+inline mp_limb_t IncrementLimbs(const Operands& o) {
+    return mpn_add_1(o.resultLimbs, o.aLimbs, o.limbCount, 1);
+}
+
+inline mp_limb_t DecrementLimbs(const Operands& o) {
+    return mpn_sub_1(o.resultLimbs, o.aLimbs, o.limbCount, 1);
+}
+
+// For a radix that is a power of two, where the limbs are only read.
+inline std::size_t DigitsOfLimbs(const Operands& o) {
+    return mpn_get_str(o.resultDigits, o.radix, const_cast<mp_limb_t*>(o.aLimbs), o.limbCount);
+}
+
+inline mp_size_t LimbsOfDigits(const Operands& o) {
+    return mpn_set_str(o.resultLimbs, o.digits, o.digitCount, o.radix);
+}
+
+template <auto kValue>
+void LimbOfValue(const Operands& o) {
+    // Widths above 64 bits are not for this one: it extends no further than its limb.
+    o.resultLimbs[0] = static_cast<mp_limb_t>(kValue);
+}
+
+// The field that starts at kFieldOffset, bit by bit.
+void FieldBitByBit(const Operands& o);
+
+// The digits of the mixed value, digit by digit.
+std::string MixedDigits(const Operands& o);
+
+}  // namespace tarn::bench
+
+#endif  // TARN_BENCH_PEERS_H
