@@ -17,6 +17,8 @@ constexpr Contestant kMemcpy = WritesWords<CopyBytes>("memcpy");
 constexpr Contestant kMpnAdd = WritesLimbs<BinaryLimbs<mpn_add_n>>("mpn_add_n");
 constexpr Contestant kMpnSub = WritesLimbs<BinaryLimbs<mpn_sub_n>>("mpn_sub_n");
 constexpr Contestant kMpnNeg = WritesLimbs<NegateLimbs>("mpn_neg");
+constexpr Contestant kMpnGetStr = WritesDigits<DigitsOfLimbs>("mpn_get_str");
+constexpr Contestant kMpnSetStr = WritesLimbs<LimbsOfDigits>("mpn_set_str");
 
 // These only say what is right.
 constexpr Contestant kMpnAddOne = WritesLimbs<IncrementLimbs>("mpn_add_1");
@@ -24,6 +26,7 @@ constexpr Contestant kMpnSubOne = WritesLimbs<DecrementLimbs>("mpn_sub_1");
 constexpr Contestant kInteger32 = WritesLimbs<LimbOfValue<kInteger>>("value");
 constexpr Contestant kInteger64 = WritesLimbs<LimbOfValue<kLongInteger>>("value");
 constexpr Contestant kField = WritesWords<FieldBitByBit>("bit by bit");
+constexpr Contestant kMixedText = ReturnsText<MixedDigits>("digit by digit");
 
 // The portable form of addition has the carry chain of one limb at a time; the vector form that the
 // lower limit is meant for needs AVX-512.
@@ -54,12 +57,26 @@ Ladder Sum(const Contestant& peer) {
     return WithTail(kCompute, {{128, 512, peer, kNoLimit}, {4096, kWidest, peer, WideSumLimit()}});
 }
 
+const Ladder kText = {{1, 128, kMpnGetStr, kNoLimit}, {512, kWidest, kMpnGetStr, 0.15}};
+const Ladder kOctalText = {{1, kWidest, kMpnGetStr, kNoLimit}};
+const Ladder kParse = {{1, 128, kMpnSetStr, kNoLimit}, {512, kWidest, kMpnSetStr, 0.5}};
+
+template <auto kExport>
+Ladder Mixed() {
+    return {{1, kWidest, ReturnsText<TextOfKnown<kExport>>("known"), 4.0}};
+}
+
 constexpr Shape kHalf{.bShare = 2};
 constexpr Shape kSignedHalf{.isSigned = true, .bShare = 2};
 constexpr Shape kInPlace{.inPlace = true};
+constexpr Shape kBinary{.radix = 2};
+constexpr Shape kOctal{.radix = 8};
+constexpr Shape kHex{.radix = 16};
 
 template <auto kCall>
 constexpr Contestant kWords = WritesWords<kCall>(kOurs);
+template <auto kCall>
+constexpr Contestant kTexts = ReturnsText<kCall>(kOurs);
 
 }  // namespace
 
@@ -81,6 +98,18 @@ const std::vector<Operation>& Operations() {
         {"SignedAddHalf", kSignedHalf, kWords<Binary<tarn_SignedAdd>>, kMpnAdd, Sum(kMpnAdd)},
         {"UnsignedAddHalf", kHalf, kWords<Binary<tarn_UnsignedAdd>>, kMpnAdd, Sum(kMpnAdd)},
         {"Partselect", kUnsigned, kWords<OfField<tarn_Partselect>>, kField, kSelect},
+        {"ConvertToBin", kBinary, kTexts<TextOfKnown<tarn_ConvertToBin>>, kMpnGetStr, kText},
+        {"ConvertToOct", kOctal, kTexts<TextOfKnown<tarn_ConvertToOct>>, kMpnGetStr, kOctalText},
+        {"ConvertToHex", kHex, kTexts<TextOfKnown<tarn_ConvertToHex>>, kMpnGetStr, kText},
+        {"ConvertToBinMixed", kBinary, kTexts<TextOfMixed<tarn_ConvertToBin>>, kMixedText,
+         Mixed<tarn_ConvertToBin>()},
+        {"ConvertToOctMixed", kOctal, kTexts<TextOfMixed<tarn_ConvertToOct>>, kMixedText,
+         Mixed<tarn_ConvertToOct>()},
+        {"ConvertToHexMixed", kHex, kTexts<TextOfMixed<tarn_ConvertToHex>>, kMixedText,
+         Mixed<tarn_ConvertToHex>()},
+        {"BinaryStringToVector", kBinary, kWords<OfText<tarn_BinaryStringToVector>>, kMpnSetStr,
+         kParse},
+        {"HexStringToVector", kHex, kWords<OfText<tarn_HexStringToVector>>, kMpnSetStr, kParse},
     };
     return operations;
 }
