@@ -60,6 +60,7 @@ Ladder Sum(const Contestant& peer) {
 const Ladder kText = {{1, 128, kMpnGetStr, kNoLimit}, {512, kWidest, kMpnGetStr, 0.15}};
 const Ladder kOctalText = {{1, kWidest, kMpnGetStr, kNoLimit}};
 const Ladder kParse = {{1, 128, kMpnSetStr, kNoLimit}, {512, kWidest, kMpnSetStr, 0.5}};
+const Ladder kDecimalParse = {{1, 65536, kMpnSetStr, 1.5}, {1048576, kWidest, kMpnSetStr, 4.0}};
 
 template <auto kExport>
 Ladder Mixed() {
@@ -71,6 +72,7 @@ constexpr Shape kSignedHalf{.isSigned = true, .bShare = 2};
 constexpr Shape kInPlace{.inPlace = true};
 constexpr Shape kBinary{.radix = 2};
 constexpr Shape kOctal{.radix = 8};
+constexpr Shape kDecimal{.radix = 10};
 constexpr Shape kHex{.radix = 16};
 
 template <auto kCall>
@@ -110,6 +112,8 @@ const std::vector<Operation>& Operations() {
         {"BinaryStringToVector", kBinary, kWords<OfText<tarn_BinaryStringToVector>>, kMpnSetStr,
          kParse},
         {"HexStringToVector", kHex, kWords<OfText<tarn_HexStringToVector>>, kMpnSetStr, kParse},
+        {"DecimalStringToVector", kDecimal, kWords<OfText<tarn_DecimalStringToVector>>, kMpnSetStr,
+         kDecimalParse},
     };
     return operations;
 }
