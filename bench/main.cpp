@@ -20,7 +20,7 @@ struct Options {
 
 // Many short repetitions in random order: a disturbance of the machine then falls on all
 // contestants alike, and the least time of each is free of it.
-constexpr const char* kMeasuring[] = {"--benchmark_repetitions=9", "--benchmark_min_time=0.008",
+constexpr const char* kMeasuring[] = {"--benchmark_repetitions=13", "--benchmark_min_time=0.008",
                                       "--benchmark_enable_random_interleaving=true"};
 constexpr const char* kSmoke[] = {"--benchmark_repetitions=1", "--benchmark_min_time=0"};
 
