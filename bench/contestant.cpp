@@ -18,8 +18,13 @@ void UnpackResultLimbs(const Operands& operands) {
 }
 
 std::string DigitText(const Operands& operands, std::size_t digitCount) {
+    // A count of digits may be the estimate of a peer that leaves zeros in front.
+    std::size_t first = 0;
+    while (first + 1 < digitCount && operands.resultDigits[first] == 0) {
+        ++first;
+    }
     std::string text;
-    for (std::size_t i = 0; i < digitCount; ++i) {
+    for (std::size_t i = first; i < digitCount; ++i) {
         text += kDigitCharacters[operands.resultDigits[i]];
     }
     return text;

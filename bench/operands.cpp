@@ -36,6 +36,7 @@ Words KnownVector(int width, bool isSigned, Random& random) {
     for (VectorWord& word : words) {
         word = {RandomBits(random), 0};
     }
+    words.front().aval |= 1;
     const std::uint32_t topBit = 1U << ((width - 1) & 31);
     const std::uint32_t above = ~(topBit | (topBit - 1));
     std::uint32_t& top = words.back().aval;
@@ -79,7 +80,8 @@ class OperandStorage {
         mixed_ = MixedVector(width, random);
         aLimbs_ = Pack(a_, shape.isSigned, limbCount);
         bLimbs_ = Pack(b_, shape.isSigned, limbCount);
-        resultLimbs_.resize(limbCount + kSpareLimbs);
+        resultLimbs_.resize(2 * limbCount + kSpareLimbs);
+        otherResultLimbs_.resize(resultLimbs_.size());
         if (shape.radix != 0) MakeDigits(width, shape.radix, limbCount);
         view_ = {.width = width,
                  .bWidth = bWidth,
@@ -89,7 +91,9 @@ class OperandStorage {
                  .b = b_.data(),
                  .mixed = mixed_.data(),
                  .limbCount = static_cast<mp_size_t>(limbCount),
+                 .bLimbCount = static_cast<mp_size_t>((b_.size() + 1) / 2),
                  .resultLimbs = resultLimbs_.data(),
+                 .otherResultLimbs = otherResultLimbs_.data(),
                  .aLimbs = aLimbs_.data(),
                  .bLimbs = bLimbs_.data(),
                  .radix = shape.radix,
@@ -115,7 +119,7 @@ class OperandStorage {
     }
 
     Words result_, a_, b_, mixed_;
-    Limbs resultLimbs_, aLimbs_, bLimbs_;
+    Limbs resultLimbs_, otherResultLimbs_, aLimbs_, bLimbs_;
     std::vector<unsigned char> digits_, resultDigits_;
     std::string text_;
     Operands view_{};

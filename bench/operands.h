@@ -25,8 +25,8 @@ inline constexpr Shape kUnsigned{};
 inline constexpr Shape kSigned{.isSigned = true};
 
 // The values in both forms: vectors for tarnlib, packed limbs and digits for the peers. a and b are
-// known and the top bit of each is set; mixed has X and Z bits all over and one word more than its
-// width needs.
+// known and odd, and the top bit of each is set; mixed has X and Z bits all over and one word more
+// than its width needs.
 struct Operands {
     int width;
     int bWidth;
@@ -36,9 +36,12 @@ struct Operands {
     const VectorWord* b;
     const VectorWord* mixed;
 
-    // As many bits as the words of the result; b's are extended.
+    // As many bits as the words of the result; b's are extended above its own bLimbCount. The two
+    // results have room for a product.
     mp_size_t limbCount;
+    mp_size_t bLimbCount;
     mp_limb_t* resultLimbs;
+    mp_limb_t* otherResultLimbs;
     const mp_limb_t* aLimbs;
     const mp_limb_t* bLimbs;
 
@@ -59,6 +62,10 @@ inline constexpr unsigned kFieldOffset = 13;
 // What the conversions of machine values convert; its extension is not zeros.
 inline constexpr std::int32_t kInteger = -123456789;
 inline constexpr std::uint64_t kLongInteger = 0xFEDCBA9876543210;
+
+// A power's exponent: known bits in a pattern of no kind, in a width of its own.
+inline constexpr int kExponentWidth = 16;
+inline constexpr VectorWord kExponent{0xB5C3, 0};
 
 // Made at the first call and kept, so that all operations of one shape work on the same storage.
 const Operands& OperandsFor(const Shape& shape, int width);

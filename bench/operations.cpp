@@ -17,6 +17,11 @@ constexpr Contestant kMemcpy = WritesWords<CopyBytes>("memcpy");
 constexpr Contestant kMpnAdd = WritesLimbs<BinaryLimbs<mpn_add_n>>("mpn_add_n");
 constexpr Contestant kMpnSub = WritesLimbs<BinaryLimbs<mpn_sub_n>>("mpn_sub_n");
 constexpr Contestant kMpnNeg = WritesLimbs<NegateLimbs>("mpn_neg");
+constexpr Contestant kMpnMul = WritesLimbs<MultiplyLimbs>("mpn_mul_n");
+constexpr Contestant kMpnQuotient = WritesLimbs<QuotientLimbs>("mpn_tdiv_qr");
+constexpr Contestant kMpnRemainder = WritesLimbs<RemainderLimbs>("mpn_tdiv_qr");
+constexpr Contestant kMpnPower = WritesLimbs<PowerLimbs>("mpn_sqr, mul");
+constexpr Contestant kMpnGetStrCopy = WritesDigits<DigitsOfCopiedLimbs>("mpn_get_str");
 constexpr Contestant kMpnGetStr = WritesDigits<DigitsOfLimbs>("mpn_get_str");
 constexpr Contestant kMpnSetStr = WritesLimbs<LimbsOfDigits>("mpn_set_str");
 
@@ -57,8 +62,14 @@ Ladder Sum(const Contestant& peer) {
     return WithTail(kCompute, {{128, 512, peer, kNoLimit}, {4096, kWidest, peer, WideSumLimit()}});
 }
 
+// By the call up to 64 bits, by the peer above.
+Ladder Product(const Contestant& peer) {
+    return WithTail(kUnlimited, {{128, kWidest, peer, kNoLimit}});
+}
+
 const Ladder kText = {{1, 128, kMpnGetStr, kNoLimit}, {512, kWidest, kMpnGetStr, 0.15}};
 const Ladder kOctalText = {{1, kWidest, kMpnGetStr, kNoLimit}};
+const Ladder kDecimalText = {{1, kWidest, kMpnGetStrCopy, kNoLimit}};
 const Ladder kParse = {{1, 128, kMpnSetStr, kNoLimit}, {512, kWidest, kMpnSetStr, 0.5}};
 const Ladder kDecimalParse = {{1, 65536, kMpnSetStr, 1.5}, {1048576, kWidest, kMpnSetStr, 4.0}};
 
@@ -99,6 +110,13 @@ const std::vector<Operation>& Operations() {
         {"SignedMinus", kSigned, kWords<Unary<tarn_SignedMinus>>, kMpnNeg, kNegate},
         {"SignedAddHalf", kSignedHalf, kWords<Binary<tarn_SignedAdd>>, kMpnAdd, Sum(kMpnAdd)},
         {"UnsignedAddHalf", kHalf, kWords<Binary<tarn_UnsignedAdd>>, kMpnAdd, Sum(kMpnAdd)},
+        {"UnsignedMul", kUnsigned, kWords<Binary<tarn_UnsignedMul>>, kMpnMul, Product(kMpnMul)},
+        {"UnsignedDiv", kHalf, kWords<Binary<tarn_UnsignedDiv>>, kMpnQuotient,
+         Product(kMpnQuotient)},
+        {"UnsignedMod", kHalf, kWords<Binary<tarn_UnsignedMod>>, kMpnRemainder,
+         Product(kMpnRemainder)},
+        {"UnsignedUPower", kUnsigned, kWords<Power<tarn_UnsignedUPower>>, kMpnPower,
+         Product(kMpnPower)},
         {"Partselect", kUnsigned, kWords<OfField<tarn_Partselect>>, kField, kSelect},
         {"ConvertToBin", kBinary, kTexts<TextOfKnown<tarn_ConvertToBin>>, kMpnGetStr, kText},
         {"ConvertToOct", kOctal, kTexts<TextOfKnown<tarn_ConvertToOct>>, kMpnGetStr, kOctalText},
@@ -109,6 +127,8 @@ const std::vector<Operation>& Operations() {
          Mixed<tarn_ConvertToOct>()},
         {"ConvertToHexMixed", kHex, kTexts<TextOfMixed<tarn_ConvertToHex>>, kMixedText,
          Mixed<tarn_ConvertToHex>()},
+        {"UnsignedConvertToDec", kDecimal, kTexts<DecimalOfKnown<tarn_UnsignedConvertToDec>>,
+         kMpnGetStrCopy, kDecimalText},
         {"BinaryStringToVector", kBinary, kWords<OfText<tarn_BinaryStringToVector>>, kMpnSetStr,
          kParse},
         {"HexStringToVector", kHex, kWords<OfText<tarn_HexStringToVector>>, kMpnSetStr, kParse},

@@ -12,6 +12,11 @@ void Binary(const Operands& o) {
 }
 
 template <auto kExport>
+void Power(const Operands& o) {
+    kExport(o.width, o.result, o.width, o.a, kExponentWidth, &kExponent);
+}
+
+template <auto kExport>
 void Unary(const Operands& o) {
     kExport(o.width, o.result, o.width, o.a);
 }
@@ -36,6 +41,13 @@ inline constexpr int kAllDigits = -1;
 template <auto kExport>
 const char* TextOfKnown(const Operands& o) {
     return kExport(o.width, o.a, kAllDigits);
+}
+
+template <auto kExport>
+const char* DecimalOfKnown(const Operands& o) {
+    constexpr int kFewestDigits = 0;
+    constexpr int kNoZeros = 0;
+    return kExport(o.width, o.a, kFewestDigits, kNoZeros);
 }
 
 template <auto kExport>

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 namespace tarn::bench {
 namespace {
@@ -32,6 +33,20 @@ char MixedDigit(const VectorWord* words, int first, int last) {
 }
 
 }  // namespace
+
+void PowerLimbs(const Operands& o) {
+    mp_limb_t* power = o.otherResultLimbs;
+    mp_limb_t* product = o.resultLimbs;
+    mpn_copyi(power, o.aLimbs, o.limbCount);
+    for (std::uint32_t bit = std::bit_floor(kExponent.aval) >> 1; bit != 0; bit >>= 1) {
+        mpn_sqr(product, power, o.limbCount);
+        std::swap(product, power);
+        if ((kExponent.aval & bit) == 0) continue;
+        mpn_mul_n(product, power, o.aLimbs, o.limbCount);
+        std::swap(product, power);
+    }
+    if (power != o.resultLimbs) mpn_copyi(o.resultLimbs, power, o.limbCount);
+}
 
 void FieldBitByBit(const Operands& o) {
     std::fill_n(o.result, o.wordCount, VectorWord{0, 0});

@@ -36,6 +36,32 @@ inline mp_limb_t DecrementLimbs(const Operands& o) {
     return mpn_sub_1(o.resultLimbs, o.aLimbs, o.limbCount, 1);
 }
 
+inline void MultiplyLimbs(const Operands& o) {
+    mpn_mul_n(o.resultLimbs, o.aLimbs, o.bLimbs, o.limbCount);
+}
+
+inline void DivideLimbs(const Operands& o, mp_limb_t* quotient, mp_limb_t* remainder) {
+    mpn_tdiv_qr(quotient, remainder, 0, o.aLimbs, o.limbCount, o.bLimbs, o.bLimbCount);
+}
+
+inline void QuotientLimbs(const Operands& o) {
+    DivideLimbs(o, o.resultLimbs, o.otherResultLimbs);
+}
+
+inline void RemainderLimbs(const Operands& o) {
+    DivideLimbs(o, o.otherResultLimbs, o.resultLimbs);
+}
+
+// Squares and multiplies from the exponent's top bit down; each product is cut to the limbs of the
+// result.
+void PowerLimbs(const Operands& o);
+
+// For a radix that is no power of two, where the limbs are destroyed.
+inline std::size_t DigitsOfCopiedLimbs(const Operands& o) {
+    mpn_copyi(o.resultLimbs, o.aLimbs, o.limbCount);
+    return mpn_get_str(o.resultDigits, o.radix, o.resultLimbs, o.limbCount);
+}
+
 // For a radix that is a power of two, where the limbs are only read.
 inline std::size_t DigitsOfLimbs(const Operands& o) {
     return mpn_get_str(o.resultDigits, o.radix, const_cast<mp_limb_t*>(o.aLimbs), o.limbCount);
