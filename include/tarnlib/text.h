@@ -73,6 +73,59 @@ TARNLIB_API char* tarn_ConvertToOct0(int code);
 TARNLIB_API char* tarn_ConvertToHex0(int code);
 
 /*------------------------------------------------------------------------------------------------
+ * Vectors as decimal digits, and reals
+ *----------------------------------------------------------------------------------------------*/
+
+/** The decimal digits of a vector, right-aligned in a field (the display conversion %%d).
+ *  widths    bits, at least 1; a width below 1 returns an empty text. minDigits chooses the field:
+ *            negative the digits that the width can need (and, Signed, one for the sign); 0 as few
+ *            characters as the value needs; positive at least so many. The field is padded on the
+ *            left with spaces, or with zeros (behind the sign) where zeroPad is not 0.
+ *  unknown   all bits X give one 'x', all Z one 'z'; else any X gives one 'X', any Z one 'Z'.
+ *  top word  Signed: the value is negative where its top bit or any aval bit above that is set, and
+ *            bits above the width are dropped from its magnitude. Otherwise the digits are those of
+ *            the whole words, and X or Z bits above the width count.
+ *  returns   the first character, which is in general not the start of the text buffer.
+ *  scratch   a known value leaves its words' places at the start of tarn_VectorRegister 0. The
+ *            value may lie there.
+ *  limits    20,000,000 bits; not checked.
+ *  source    IEEE 1364-2005, 17.1.1.2 and 17.1.1.3
+ *  example   8'sd-5 is "  -5", with zeroPad "-005", with minDigits 0 "-5". */
+TARNLIB_API char* tarn_UnsignedConvertToDec(int width, const VectorWord* value, int minDigits,
+                                            int zeroPad);
+/** @copydoc tarn_UnsignedConvertToDec */
+TARNLIB_API char* tarn_SignedConvertToDec(int width, const VectorWord* value, int minDigits,
+                                          int zeroPad);
+
+/** The decimal text of a one-bit value given as a LogicCode: as tarn_ConvertToBin0, but a signed 1
+ *  (tarn_SignedConvertToDec0) is "-1".
+ *  unknown   a code outside 0 to 5 gives "x".
+ *  returns   the start of the text buffer. */
+TARNLIB_API char* tarn_UnsignedConvertToDec0(int code);
+/** @copydoc tarn_UnsignedConvertToDec0 */
+TARNLIB_API char* tarn_SignedConvertToDec0(int code);
+
+/** The value of a vector as a machine integer, for use as a size or count.
+ *  widths    bits, at least 1; below 1 the value is 0. The vector comes before its width here.
+ *  unknown   X and Z bits count as 0.
+ *  top word  Unsigned, and Signed from 32 bits up: word 0 as it is stored. Signed below 32 bits:
+ *            the sign is bit width - 1, copied upward. Elsewhere bits above the width are ignored.
+ *  writes    to *overflow 1 where a known 1 lies at bit 64 or above, within the width, else 0.
+ *  returns   the low 32 bits. Bits 32 to 63 neither reach the result nor raise the flag.
+ *  limits    may run in any thread. */
+TARNLIB_API unsigned tarn_UnsignedConvertToSizeT(const VectorWord* value, int width,
+                                                 int* overflow) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_UnsignedConvertToSizeT */
+TARNLIB_API int tarn_SignedConvertToSizeT(const VectorWord* value, int width,
+                                          int* overflow) TARNLIB_NOEXCEPT;
+
+/** A real under a printf format with exactly one conversion for a double.
+ *  returns   the start of the text buffer, which has room for 4096 characters at least.
+ *  aliasing  format must not lie in the text buffer.
+ *  limits    a format that the C library rejects returns an empty text. */
+TARNLIB_API char* tarn_ConvertToStringR(const char* format, double value);
+
+/*------------------------------------------------------------------------------------------------
  * Vectors as characters
  *----------------------------------------------------------------------------------------------*/
 

@@ -28,9 +28,6 @@ bool PackKnown(Limb* limbs, const VectorWord* words, std::size_t count) noexcept
     return true;
 }
 
-namespace {
-
-// limbs = 2^(32 * wordCount) - limbs.
 void NegateLimbs(Limb* limbs, std::size_t wordCount) noexcept {
     const std::size_t count = LimbCount(wordCount);
     CarryFlag borrow = 0;
@@ -41,8 +38,6 @@ void NegateLimbs(Limb* limbs, std::size_t wordCount) noexcept {
         limbs[count - 1] &= kValueBits;
     }
 }
-
-}  // namespace
 
 template <class Extend>
 bool PackWhole(Whole* whole, Limb* limbs, Operand operand, std::size_t wordCount) noexcept {

@@ -24,6 +24,9 @@ inline void StoreLimb(VectorWord* to, Limb limb) noexcept {
 // a word has an unknown bit.
 bool PackKnown(Limb* limbs, const VectorWord* words, std::size_t count) noexcept;
 
+// limbs = 2^(32 * wordCount) - limbs, for the LimbCount(wordCount) limbs of a value of these words.
+void NegateLimbs(Limb* limbs, std::size_t wordCount) noexcept;
+
 // A whole number with its sign: limbs[0 .. count) without zeros at the top.
 struct Whole {
     Limb* limbs;

@@ -3,9 +3,12 @@
 
 #include <tarnlib/text.h>
 
+#include "arith/scratch.h"
 #include "core/contract.h"
 #include "text/characters.h"
+#include "text/decimal_text.h"
 #include "text/literal.h"
+#include "text/machine_integer.h"
 #include "text/parse.h"
 #include "text/radix_text.h"
 #include "text/text_buffer.h"
@@ -14,6 +17,18 @@
     TARN_ARGUMENTS(width, value, option);        \
     TARN_REQUIRE(width >= 1);                    \
     TARN_REQUIRE(IsVector(width, value))
+
+#define TARN_REQUIRE_DECIMAL(width, value, minDigits, zeroPad) \
+    TARN_ARGUMENTS(width, value, minDigits, zeroPad);          \
+    TARN_REQUIRE(width >= 1);                                  \
+    TARN_REQUIRE(width <= kMaxProductWidth);                   \
+    TARN_REQUIRE(IsVector(width, value))
+
+#define TARN_REQUIRE_SIZE(value, width, overflow) \
+    TARN_ARGUMENTS(value, width, overflow);       \
+    TARN_REQUIRE(width >= 1);                     \
+    TARN_REQUIRE(IsVector(width, value));         \
+    TARN_REQUIRE(overflow != nullptr)
 
 #define TARN_REQUIRE_PARSE(width, result, text) \
     TARN_ARGUMENTS(width, result, text);        \
@@ -73,6 +88,45 @@ char* tarn_ConvertToOct0(int code) {
 char* tarn_ConvertToHex0(int code) {
     TARN_REQUIRE_CODE(code);
     return FormatLogicCode(code);
+}
+
+char* tarn_UnsignedConvertToDec(int width, const VectorWord* value, int minDigits, int zeroPad) {
+    TARN_REQUIRE_DECIMAL(width, value, minDigits, zeroPad);
+    return FormatDecimal<ZeroExtend>({width, value}, {minDigits, zeroPad != 0});
+}
+
+char* tarn_SignedConvertToDec(int width, const VectorWord* value, int minDigits, int zeroPad) {
+    TARN_REQUIRE_DECIMAL(width, value, minDigits, zeroPad);
+    return FormatDecimal<SignExtend>({width, value}, {minDigits, zeroPad != 0});
+}
+
+char* tarn_UnsignedConvertToDec0(int code) {
+    TARN_REQUIRE_CODE(code);
+    return FormatLogicCode(code);
+}
+
+char* tarn_SignedConvertToDec0(int code) {
+    TARN_REQUIRE_CODE(code);
+    return FormatSignedLogicCode(code);
+}
+
+unsigned tarn_UnsignedConvertToSizeT(const VectorWord* value, int width, int* overflow) noexcept {
+    TARN_REQUIRE_SIZE(value, width, overflow);
+    *overflow = ReachesBit64({width, value}) ? 1 : 0;
+    return UnsignedSize({width, value});
+}
+
+int tarn_SignedConvertToSizeT(const VectorWord* value, int width, int* overflow) noexcept {
+    TARN_REQUIRE_SIZE(value, width, overflow);
+    *overflow = ReachesBit64({width, value}) ? 1 : 0;
+    return SignedSize({width, value});
+}
+
+char* tarn_ConvertToStringR(const char* format, double value) {
+    TARN_ARGUMENTS(format, value);
+    TARN_REQUIRE(format != nullptr);
+    TARN_REQUIRE(!globalBuffer.Contains(format));
+    return FormatReal(format, value);
 }
 
 char* tarn_ConvertToChar(const VectorWord* value, int spaceForNul) {

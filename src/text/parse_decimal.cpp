@@ -1,7 +1,9 @@
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 
 #include "arith/natural/radix.h"
+#include "arith/pack.h"
 #include "core/words.h"
 #include "text/parse.h"
 #include "text/working_area.h"
@@ -27,27 +29,10 @@ std::size_t CopyDigitValues(std::uint8_t* values, std::string_view digits) noexc
     return count;
 }
 
-// Stores a natural as a vector of known bits; tells whether bits above the width were lost.
-Fit StoreNatural(Result result, const Limb* limbs, std::size_t limbCount) noexcept {
-    const std::size_t count = result.Count();
-    const std::size_t shared = std::min(count, 2 * limbCount);
-    const auto wordOf = [limbs](std::size_t i) -> Word {
-        const Limb limb = limbs[i / 2];
-        return i % 2 == 0 ? limb & kValueBits : limb >> kWordBits;
-    };
-    for (std::size_t i = 0; i < shared; ++i) {
-        StoreWord(result.words + i, wordOf(i));
-    }
-    FillWords(result.words + shared, count - shared, 0);
-    Word lost = 0;
-    if (shared == count) {
-        lost = wordOf(count - 1) & ~static_cast<Word>(LowMask(result.width));
-    }
-    for (std::size_t i = count; i < 2 * limbCount && lost == 0; ++i) {
-        lost = wordOf(i);
-    }
-    CleanTopWord(result);
-    return lost == 0 ? Fit::kWhole : Fit::kTruncated;
+// Whether a value other than 0 has a bit at `width` or above.
+bool ReachesBit(std::size_t width, Whole value) noexcept {
+    const auto top = static_cast<std::size_t>(std::bit_width(value.limbs[value.count - 1]));
+    return (value.count - 1) * kLimbBits + top > width;
 }
 
 }  // namespace
@@ -76,7 +61,11 @@ Fit ParseDecimalDigits(Result result, std::string_view digits) {
     WorkingArea<Limb, kShortText / 4> limbs(room + FromDecimalScratch(count));
     const std::size_t limbCount =
         FromDecimal(limbs.Items(), significant, count, limbs.Items() + room);
-    return StoreNatural(result, limbs.Items(), limbCount);
+    const Whole value{limbs.Items(), limbCount, false};
+    StoreWhole(result, value);
+    CleanTopWord(result);
+    const auto width = static_cast<std::size_t>(result.width);
+    return ReachesBit(width, value) ? Fit::kTruncated : Fit::kWhole;
 }
 
 }  // namespace tarn

@@ -53,9 +53,8 @@ char* CopyText(const char* text) {
 char* CopyPaddedText(const char* text, unsigned count) {
     if (count == UINT_MAX) return EmptyText();
     const std::size_t length = strnlen(text, count);
-    const char* const before = globalBuffer.Reserve(1);
-    const bool inBuffer = text >= before && text < before + globalBuffer.Size();
-    const std::ptrdiff_t offset = inBuffer ? text - before : 0;
+    const bool inBuffer = globalBuffer.Contains(text);
+    const std::ptrdiff_t offset = inBuffer ? globalBuffer.OffsetOf(text) : 0;
     char* const data = globalBuffer.Reserve(std::uint64_t{count} + 1);
     // Growth kept the buffer's contents at the same offset of the new storage.
     std::memmove(data, inBuffer ? data + offset : text, length);

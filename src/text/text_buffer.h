@@ -2,6 +2,7 @@
 #ifndef TARN_TEXT_TEXT_BUFFER_H
 #define TARN_TEXT_TEXT_BUFFER_H
 
+#include <cstddef>
 #include <cstdint>
 
 namespace tarn {
@@ -22,7 +23,9 @@ class TextBuffer {
         return data_;
     }
 
-    std::uint64_t Size() const noexcept { return size_; }
+    bool Contains(const char* text) const noexcept { return text >= data_ && text < data_ + size_; }
+
+    std::ptrdiff_t OffsetOf(const char* text) const noexcept { return text - data_; }
 
   private:
     static constexpr std::uint64_t kInitialSize = 10;
