@@ -13,6 +13,7 @@ struct OwnWords {
     const VectorWord* words;
 
     Word At(std::size_t i) const noexcept { return LoadWord(words + i); }
+    std::uint32_t AvalAt(std::size_t i) const noexcept { return words[i].aval; }
     OwnWords From(std::size_t first) const noexcept { return {words + first}; }
 };
 
@@ -20,6 +21,7 @@ struct SameWord {
     Word word;
 
     Word At(std::size_t) const noexcept { return word; }
+    std::uint32_t AvalAt(std::size_t) const noexcept { return Aval(word); }
 };
 
 struct SpanEnd {
@@ -27,68 +29,50 @@ struct SpanEnd {
     bool unknown;
 };
 
-// result[0 .. count) = a Operation b + carry, eight words a block. Stops behind the block (or the
-// last words) in which an unknown bit turned up. Word i of a and b is read before word i of the
-// result is written, so the result may start at either's first word.
+// result[0 .. count) = a Operation b with a carry or borrow in, kBlock words at a time: first the
+// unknown test of the whole block, then a chain of additions that nothing else comes between, so
+// that the carry stays in the processor's flag. Stops in front of the block that has an unknown
+// bit. Word i of a and b is read before word i of the result is written, so the result may start at
+// either's first word.
 template <class Operation, class A, class B>
 SpanEnd CombineSpan(VectorWord* result, A a, B b, std::size_t count, CarryFlag carry) noexcept {
-    constexpr std::size_t kBlock = 8;
+    constexpr std::size_t kBlock = 16;
     std::size_t i = 0;
     for (; i + kBlock <= count; i += kBlock) {
         Word seen = 0;
-        for (std::size_t k = i; k < i + kBlock; k += 2) {
-            const Word aLow = a.At(k), aHigh = a.At(k + 1);
-            const Word bLow = b.At(k), bHigh = b.At(k + 1);
-            seen |= aLow | aHigh | bLow | bHigh;
-            Limb sum = 0;
-            carry = AddWithCarry(carry, PackWords(aLow, aHigh),
-                                 Operation::Enter(PackWords(bLow, bHigh)), &sum);
-            StoreLimb(result + k, sum);
+        for (std::size_t k = i; k < i + kBlock; ++k) {
+            seen |= a.At(k) | b.At(k);
         }
         if (IsUnknown(seen)) return {carry, true};
+#pragma GCC unroll 16
+        for (std::size_t k = i; k < i + kBlock; ++k) {
+            std::uint32_t sum = 0;
+            carry = Operation::Step(carry, a.AvalAt(k), b.AvalAt(k), &sum);
+            StoreWord(result + k, sum);
+        }
     }
-    Word seen = 0;
     for (; i < count; ++i) {
-        const Word aWord = a.At(i);
-        const Word bWord = b.At(i);
-        seen |= aWord | bWord;
-        const Word sum = (aWord & kValueBits) + (Operation::Enter(bWord) & kValueBits) + carry;
-        StoreWord(result + i, sum & kValueBits);
-        carry = static_cast<CarryFlag>((sum >> kWordBits) & 1U);
+        const Word aWord = a.At(i), bWord = b.At(i);
+        if (IsUnknown(aWord | bWord)) return {carry, true};
+        std::uint32_t sum = 0;
+        carry = Operation::Step(carry, Aval(aWord), Aval(bWord), &sum);
+        StoreWord(result + i, sum);
     }
-    return {carry, IsUnknown(seen)};
+    return {carry, false};
 }
 
-// Two words each: one limb.
+// The same for operands of any widths, each continued above its words by `beyond`.
 template <class Operation>
-inline void CombineTwoWords(VectorWord* result, const VectorWord* a, const VectorWord* b) noexcept {
-    const Word aLow = LoadWord(a), aHigh = LoadWord(a + 1);
-    const Word bLow = LoadWord(b), bHigh = LoadWord(b + 1);
-    const Limb sum =
-        PackWords(aLow, aHigh) + Operation::Enter(PackWords(bLow, bHigh)) + Operation::kFirstCarry;
-    const Word beyond = IsUnknown(aLow | aHigh | bLow | bHigh) ? kAllX : 0;
-    StoreWord(result, (sum & kValueBits) | beyond);
-    StoreWord(result + 1, (sum >> kWordBits) | beyond);
-}
-
-}  // namespace
-
-template <class Operation, class Extend>
-void CombineWide(Result result, Operand a, Operand b) noexcept {
-    if (AreTwoWords(result.width, a.width, b.width)) {
-        CombineTwoWords<Operation>(result.words, a.words, b.words);
-        return;
-    }
+void CombineVectors(Result result, Operand a, SameWord aBeyond, Operand b,
+                    SameWord bBeyond) noexcept {
     const std::size_t count = result.Count();
     const std::size_t aCount = std::min(a.Count(), count);
     const std::size_t bCount = std::min(b.Count(), count);
     const std::size_t both = std::min(aCount, bCount);
     const std::size_t either = std::max(aCount, bCount);
     const OwnWords aWords{a.words}, bWords{b.words};
-    const SameWord aBeyond{ExtensionWord<Extend>(a)}, bBeyond{ExtensionWord<Extend>(b)};
 
-    const CarryFlag firstCarry = Operation::kFirstCarry;
-    SpanEnd end = CombineSpan<Operation>(result.words, aWords, bWords, both, firstCarry);
+    SpanEnd end = CombineSpan<Operation>(result.words, aWords, bWords, both, 0);
     if (!end.unknown && aCount > both) {
         end = CombineSpan<Operation>(result.words + both, aWords.From(both), bBeyond, aCount - both,
                                      end.carry);
@@ -105,13 +89,43 @@ void CombineWide(Result result, Operand a, Operand b) noexcept {
     }
 }
 
+}  // namespace
+
+template <class Operation, class Extend>
+void CombineWide(Result result, Operand a, Operand b) noexcept {
+    if (AreShort(result.width, a.width, b.width)) {
+        const ShortValue aValue = LoadShort<Extend>(a), bValue = LoadShort<Extend>(b);
+        StoreShort(result, {Operation::Combine(aValue.limb, bValue.limb),
+                            aValue.unknown || bValue.unknown});
+        return;
+    }
+    CombineVectors<Operation>(result, a, {ExtensionWord<Extend>(a)}, b, {ExtensionWord<Extend>(b)});
+}
+
 template void CombineWide<Addition, SignExtend>(Result, Operand, Operand) noexcept;
 template void CombineWide<Addition, ZeroExtend>(Result, Operand, Operand) noexcept;
 template void CombineWide<Subtraction, SignExtend>(Result, Operand, Operand) noexcept;
 template void CombineWide<Subtraction, ZeroExtend>(Result, Operand, Operand) noexcept;
 
 template <class Extend>
+void NegateWide(Result result, Operand a) noexcept {
+    if (AreShort(result.width, a.width)) {
+        const ShortValue value = LoadShort<Extend>(a);
+        StoreShort(result, {0 - value.limb, value.unknown});
+        return;
+    }
+    CombineVectors<Subtraction>(result, {0, nullptr}, {0}, a, {ExtensionWord<Extend>(a)});
+}
+
+template void NegateWide<SignExtend>(Result, Operand) noexcept;
+template void NegateWide<ZeroExtend>(Result, Operand) noexcept;
+
+template <class Extend>
 void PlusWide(Result result, Operand a) noexcept {
+    if (AreShort(result.width, a.width)) {
+        StoreShort(result, LoadShort<Extend>(a));
+        return;
+    }
     // The unknown test runs first: a copy on top of the operand would still be right, but a copy
     // that is then overwritten with X would be done for nothing.
     if (result.width < 1) return;

@@ -2,19 +2,26 @@
 #ifndef TARN_ARITH_ADD_H
 #define TARN_ARITH_ADD_H
 
+#include "arith/natural/limb.h"
 #include "core/words.h"
 
 namespace tarn {
 
-// a + b, or a - b as a + ~b + 1: the two differ in how b enters and in the first carry.
+// What addition and subtraction do with two limbs, and with two words and a carry or borrow.
 struct Addition {
-    static constexpr Word kFirstCarry = 0;
-    static constexpr std::uint64_t Enter(std::uint64_t b) noexcept { return b; }
+    static constexpr Limb Combine(Limb a, Limb b) noexcept { return a + b; }
+    static CarryFlag Step(CarryFlag carry, std::uint32_t a, std::uint32_t b,
+                          std::uint32_t* sum) noexcept {
+        return AddWithCarry32(carry, a, b, sum);
+    }
 };
 
 struct Subtraction {
-    static constexpr Word kFirstCarry = 1;
-    static constexpr std::uint64_t Enter(std::uint64_t b) noexcept { return ~b; }
+    static constexpr Limb Combine(Limb a, Limb b) noexcept { return a - b; }
+    static CarryFlag Step(CarryFlag borrow, std::uint32_t a, std::uint32_t b,
+                          std::uint32_t* difference) noexcept {
+        return SubtractWithBorrow32(borrow, a, b, difference);
+    }
 };
 
 // result = a Operation b for operands of any widths. Instantiated in add.cpp for both operations
@@ -27,14 +34,17 @@ inline void Combine(Result result, Operand a, Operand b) noexcept {
     if (AreOneWord(result.width, a.width, b.width)) {
         const Word aWord = LoadWord(a.words);
         const Word bWord = LoadWord(b.words);
-        const Word sum = (aWord + Operation::Enter(bWord) + Operation::kFirstCarry) & kValueBits;
+        const Word sum = Operation::Combine(aWord, bWord) & kValueBits;
         StoreWord(result.words, IsUnknown(aWord | bWord) ? kAllX : sum);
         return;
     }
     CombineWide<Operation, Extend>(result, a, b);
 }
 
-// result = -a, which is 0 - a with an empty operand for the 0.
+template <class Extend>
+void NegateWide(Result result, Operand a) noexcept;
+
+// result = -a.
 template <class Extend>
 inline void Negate(Result result, Operand a) noexcept {
     if (AreOneWord(result.width, a.width)) {
@@ -42,7 +52,7 @@ inline void Negate(Result result, Operand a) noexcept {
         StoreWord(result.words, IsUnknown(word) ? kAllX : (0 - word) & kValueBits);
         return;
     }
-    CombineWide<Subtraction, Extend>(result, {0, nullptr}, a);
+    NegateWide<Extend>(result, a);
 }
 
 template <class Extend>

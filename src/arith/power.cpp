@@ -65,16 +65,22 @@ Whole PowerOfWhole(Whole base, Operand exponent, std::size_t bits, std::size_t l
     return power;
 }
 
-// The same for a result of at most one limb.
-Limb PowerOfLimb(Limb base, Operand exponent, std::size_t bits) noexcept {
-    Limb power = base;
-    for (std::size_t i = bits - 1; i-- > 0;) {
-        power *= power;
-        if (ExponentBit(exponent, i)) {
-            power *= base;
+// Everything in one limb: true where the widths allow it.
+template <class Extend>
+bool PowerShort(Result result, Operand base, Operand exponent) noexcept {
+    if (!AreShort(result.width, base.width, exponent.width)) return false;
+    ShortValue factor = LoadShort<Extend>(base);
+    const ShortValue stored = LoadShort<ZeroExtend>(exponent);
+    Limb left = stored.limb & (~Limb{0} >> (kLimbBits - exponent.width));
+    ShortValue power{1, factor.unknown || stored.unknown};
+    for (; left != 0; left >>= 1) {
+        if ((left & 1U) != 0) {
+            power.limb *= factor.limb;
         }
+        factor.limb *= factor.limb;
     }
-    return power;
+    StoreShort(result, power);
+    return true;
 }
 
 void StoreOne(Result result, bool negative) noexcept {
@@ -144,9 +150,6 @@ void PowerOfKnown(Result result, Operand base, Operand exponent) noexcept {
     }
     if (bits == 0) {
         StoreOne(result, false);
-    } else if (limit == 1) {
-        Limb power = PowerOfLimb(whole.limbs[0], exponent, bits);
-        StoreWhole(result, {&power, 1, negative});
     } else {
         Whole power = PowerOfWhole(whole, exponent, bits, limit, &scratch);
         power.negative = negative;
@@ -158,7 +161,7 @@ void PowerOfKnown(Result result, Operand base, Operand exponent) noexcept {
 
 template <class Extend>
 void PowerUnsigned(Result result, Operand base, Operand exponent) noexcept {
-    if (result.width < 1) return;
+    if (result.width < 1 || PowerShort<Extend>(result, base, exponent)) return;
     if (HasUnknownFrom(0, base) || HasUnknownFrom(0, exponent)) {
         FillX(result);
         return;
@@ -168,15 +171,12 @@ void PowerUnsigned(Result result, Operand base, Operand exponent) noexcept {
 
 template <class Extend>
 void PowerSigned(Result result, Operand base, Operand exponent) noexcept {
-    if (result.width < 1) return;
-    if (HasUnknownFrom(0, base) || HasUnknownFrom(0, exponent)) {
+    if (!AreTopBitsSet(exponent)) {
+        PowerUnsigned<Extend>(result, base, exponent);
+    } else if (HasUnknownFrom(0, base) || HasUnknownFrom(0, exponent)) {
         FillX(result);
-        return;
-    }
-    if (AreTopBitsSet(exponent)) {
-        PowerNegative<Extend>(result, base, exponent);
     } else {
-        PowerOfKnown<Extend>(result, base, exponent);
+        PowerNegative<Extend>(result, base, exponent);
     }
 }
 

@@ -111,13 +111,9 @@ std::size_t LowProductScratch(std::size_t aCount, std::size_t bCount, std::size_
 
 template <class Extend>
 void MultiplyWide(Result result, Operand a, Operand b) noexcept {
-    if (AreTwoWords(result.width, a.width, b.width)) {
-        const Word a0 = LoadWord(a.words), a1 = LoadWord(a.words + 1);
-        const Word b0 = LoadWord(b.words), b1 = LoadWord(b.words + 1);
-        const Word beyond = IsUnknown(a0 | a1 | b0 | b1) ? kAllX : 0;
-        const Limb product = PackWords(a0, a1) * PackWords(b0, b1);
-        StoreWord(result.words, (product & kValueBits) | beyond);
-        StoreWord(result.words + 1, (product >> kWordBits) | beyond);
+    if (AreShort(result.width, a.width, b.width)) {
+        const ShortValue aValue = LoadShort<Extend>(a), bValue = LoadShort<Extend>(b);
+        StoreShort(result, {aValue.limb * bValue.limb, aValue.unknown || bValue.unknown});
         return;
     }
     const std::size_t count = result.Count();

@@ -27,15 +27,11 @@ Whole DivideWholes(Whole a, Whole b, Scratch* scratch) noexcept {
 template <class Extend, Wanted kWanted>
 void DivideWide(Result result, Operand a, Operand b) noexcept {
     if (result.width < 1) return;
-    if (AreTwoWords(result.width, a.width, b.width)) {
-        const Word a0 = LoadWord(a.words), a1 = LoadWord(a.words + 1);
-        const Word b0 = LoadWord(b.words), b1 = LoadWord(b.words + 1);
-        const Limb divisor = PackWords(b0, b1);
-        if (IsUnknown(a0 | a1 | b0 | b1) || divisor == 0) {
-            FillX(result);
-            return;
-        }
-        StoreLimb(result.words, DivideSmall<Extend, kWanted>(PackWords(a0, a1), divisor));
+    if (AreShort(result.width, a.width, b.width)) {
+        const ShortValue aValue = LoadShort<Extend>(a), bValue = LoadShort<Extend>(b);
+        const bool unknown = aValue.unknown || bValue.unknown || bValue.limb == 0;
+        const Limb limb = unknown ? 0 : DivideSmall<Extend, kWanted>(aValue.limb, bValue.limb);
+        StoreShort(result, {limb, unknown});
         return;
     }
     Scratch scratch;

@@ -70,16 +70,16 @@ constexpr bool AreOneWord(Widths... widths) noexcept {
     return ((static_cast<unsigned>(widths) - 1U) | ...) < 32U;
 }
 
-// Whether every width is 33 to 64: two words each.
+// Whether every width is 1 to 64: one or two words each.
 template <class... Widths>
-constexpr bool AreTwoWords(Widths... widths) noexcept {
-    return ((static_cast<unsigned>(widths) - 33U) | ...) < 32U;
+constexpr bool AreShort(Widths... widths) noexcept {
+    return ((static_cast<unsigned>(widths) - 1U) | ...) < 64U;
 }
 
 static_assert(WordCount(0) == 0 && WordCount(1) == 1 && WordCount(32) == 1 && WordCount(33) == 2);
 static_assert(LowMask(1) == 1 && LowMask(32) == 0xFFFFFFFF && LowMask(40) == 0xFF);
 static_assert(AreOneWord(1, 32) && !AreOneWord(0) && !AreOneWord(33) && !AreOneWord(5, -1));
-static_assert(AreTwoWords(33, 64) && !AreTwoWords(32) && !AreTwoWords(65) && !AreTwoWords(0));
+static_assert(AreShort(1, 64) && !AreShort(0) && !AreShort(65) && !AreShort(64, -1));
 
 }  // namespace tarn
 

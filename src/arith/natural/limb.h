@@ -62,6 +62,29 @@ inline CarryFlag SubtractWithBorrow(CarryFlag borrow, Limb a, Limb b, Limb* diff
 #endif
 }
 
+// The same on half a limb.
+inline CarryFlag AddWithCarry32(CarryFlag carry, std::uint32_t a, std::uint32_t b,
+                                std::uint32_t* sum) noexcept {
+#if defined(__x86_64__)
+    return _addcarry_u32(carry, a, b, sum);
+#else
+    const Limb total = static_cast<Limb>(a) + b + carry;
+    *sum = static_cast<std::uint32_t>(total);
+    return static_cast<CarryFlag>(total >> 32);
+#endif
+}
+
+inline CarryFlag SubtractWithBorrow32(CarryFlag borrow, std::uint32_t a, std::uint32_t b,
+                                      std::uint32_t* difference) noexcept {
+#if defined(__x86_64__)
+    return _subborrow_u32(borrow, a, b, difference);
+#else
+    const Limb total = static_cast<Limb>(a) - b - borrow;
+    *difference = static_cast<std::uint32_t>(total);
+    return static_cast<CarryFlag>(total >> 63);
+#endif
+}
+
 }  // namespace tarn
 
 #endif  // TARN_ARITH_NATURAL_LIMB_H
