@@ -1,0 +1,37 @@
+// What the user is told about an expression that can't be calculated.
+#ifndef TARNCALC_DIAGNOSTIC_H
+#define TARNCALC_DIAGNOSTIC_H
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace tarncalc {
+
+/** An expression that is rejected, and the place in its text that the user should look at. */
+class ExpressionError : public std::runtime_error {
+  public:
+    ExpressionError(std::size_t position, const std::string& message)
+        : std::runtime_error(message), position_(position) {}
+
+    std::size_t Position() const noexcept { return position_; }
+
+  private:
+    std::size_t position_;
+};
+
+/** Two lines, each with its newline: the text, and a caret under the byte at `position` (which may
+ *  be the end of the text). Of a long text only the neighbourhood of the caret is shown, and
+ *  nothing is shown as it is that a terminal would obey. */
+std::string CaretLines(std::string_view text, std::size_t position);
+
+/** A text for use inside a message: on one line, shortened where it is long. */
+std::string Quoted(std::string_view text);
+
+/** A name for the character that begins at `position`, fit for a message. */
+std::string CharacterName(std::string_view text, std::size_t position);
+
+}  // namespace tarncalc
+
+#endif

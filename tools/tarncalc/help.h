@@ -1,0 +1,72 @@
+// What --help prints.
+#ifndef TARNCALC_HELP_H
+#define TARNCALC_HELP_H
+
+#include <string_view>
+
+namespace tarncalc {
+
+inline constexpr std::string_view kHelp =
+    R"help(Usage: tarncalc [OPTION]... [EXPRESSION]...
+Calculate with Verilog values: vectors of any width, of bits 0, 1, x and z.
+
+Each EXPRESSION is an argument of its own, so quote it for the shell. Its value
+is printed on a line of its own, as a literal. Without arguments, expressions
+are read from standard input, one a line; on a terminal with line editing and
+history, until Ctrl-D.
+
+  tarncalc "8'hFF + 8'h01"          8'h00
+  tarncalc "9'hFF + 8'h01"          9'h100
+  tarncalc -d "-8'sd5"              -8'sd5
+  tarncalc -d "3 - (7 - 1)"         -32'sd3
+  tarncalc "4'b1x0z + 1"            32'hxxxxxxxx
+
+Options hold for all expressions; of several bases the last one counts:
+  -x           print in hexadecimal (the default)
+  -d           print in decimal
+  -o           print in octal
+  -b           print in binary
+  -h, --help   print this text and stop
+  --version    print the version and stop
+  --           the arguments after it are expressions, whatever they look like
+An argument such as -5 or "-8'd1" is no option but an expression.
+
+Operands:
+  8'hFF 12'o777 4'b1x0z 16'd500
+               width in bits, quote, base (h, o, b or d), digits: unsigned
+  8'shFF       with s in front of the base: signed
+  500          a plain decimal number: 32 bits, signed
+  'hFF 'sd500  without a width: 32 bits, or more where h, o or b digits need it
+  '0 '1 'x 'z  one bit, unsigned; it does not fill the width of its context
+  "abc"        8 bits a character, unsigned; \n \t \\ \" and octal \101 are
+               single characters
+Underscores may divide digits. x and z (or ?) are digits too, in decimal only
+alone. Spaces may stand before the quote and after the base. A width is at most
+10000000.
+
+Operators: + and -, with one operand or two, and parentheses.
+
+Widths and signs follow IEEE 1364. The result is as wide as the widest operand,
+and unsigned if any operand is. All operands are extended to that width before
+anything is calculated: by their top bit if the result is signed, else by
+zeros. An x or z in an operand makes the result of an operator x in every bit.
+
+A result, given back as an expression, has the same value. So a negative number
+in decimal has its minus in front of the literal; and where an octal, decimal
+or hexadecimal digit can't tell which bits are x or z, the value is printed in
+binary, whatever base was chosen:
+
+  tarncalc "8'b0000x000"            8'b0000x000
+  tarncalc -d "8'hx1"               8'bxxxx0001
+
+Errors are shown on standard error with a caret under the place; the other
+expressions are still calculated. There is a warning for each literal that
+loses upper bits because its width is too small for its digits.
+
+Exit status: 0 if all went well, 1 if reading or writing failed, 2 if an option
+or an expression was wrong.
+)help";
+
+}  // namespace tarncalc
+
+#endif

@@ -1,0 +1,15 @@
+// Lines of the standard input.
+#ifndef TARNCALC_LINE_READER_H
+#define TARNCALC_LINE_READER_H
+
+#include <string>
+
+namespace tarncalc {
+
+/** Reads the next line, without its newline; false at the end of the input. On a terminal, with a
+ *  prompt, line editing and history. */
+bool ReadLine(std::string& line);
+
+}  // namespace tarncalc
+
+#endif

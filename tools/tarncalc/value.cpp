@@ -1,0 +1,66 @@
+#include "value.h"
+
+#include <string>
+
+#include "literal.h"
+
+namespace tarncalc {
+
+namespace {
+
+constexpr int kWordBits = 32;
+
+constexpr int WordCount(int width) {
+    return (width - 1) / kWordBits + 1;
+}
+
+void* AllocateWords(std::uint64_t byteCount) {
+    return new VectorWord[byteCount / sizeof(VectorWord)];
+}
+
+/** The low `bitCount` bits of a slice, extended through the rest of it. */
+constexpr std::uint32_t ExtendSlice(std::uint32_t slice, int bitCount, bool isSigned) {
+    const std::uint32_t above = ~std::uint32_t{0} << bitCount;
+    const bool topBit = ((slice >> (bitCount - 1)) & 1U) != 0;
+    return isSigned && topBit ? slice | above : slice & ~above;
+}
+
+}  // namespace
+
+Value::Value(const Literal& literal, bool& isCut) : type_{0, false} {
+    const std::string sizeText(literal.sizeText);
+    const std::string valueText = std::string(literal.prefix).append(literal.digits);
+    unsigned char truncated = 0;
+    VectorWord* words = nullptr;
+    type_.isSigned =
+        tarn_CreateVector(sizeText.empty() ? nullptr : sizeText.c_str(), valueText.c_str(),
+                          &type_.width, &words, AllocateWords, &truncated);
+    words_.reset(words);
+    // The library reports characters left unread. Of binary, octal and hexadecimal digits that is
+    // not the same as a lost value: leading zeros are no loss, and a top digit can be cut inside.
+    const bool hasBits = literal.radix != nullptr && literal.radix->bitsPerDigit != 0;
+    isCut = hasBits ? literal.significantBits > static_cast<std::uint64_t>(type_.width)
+                    : truncated != 0;
+    RestoreTopWord();
+}
+
+void Value::Convert(Type type) {
+    type_.isSigned = type.isSigned;
+    RestoreTopWord();
+    if (type.width == type_.width) return;
+    auto extended = std::make_unique<VectorWord[]>(static_cast<std::size_t>(WordCount(type.width)));
+    const auto copy = type.isSigned ? tarn_SignedCopy : tarn_UnsignedCopy;
+    copy(type.width, extended.get(), type_.width, words_.get());
+    words_ = std::move(extended);
+    type_.width = type.width;
+}
+
+void Value::RestoreTopWord() noexcept {
+    const int bitCount = type_.width % kWordBits;
+    if (bitCount == 0) return;
+    VectorWord& top = words_[static_cast<std::size_t>(WordCount(type_.width) - 1)];
+    top.aval = ExtendSlice(top.aval, bitCount, type_.isSigned);
+    top.bval = ExtendSlice(top.bval, bitCount, type_.isSigned);
+}
+
+}  // namespace tarncalc

@@ -1,0 +1,46 @@
+// Four-state values of any width, which own their words.
+#ifndef TARNCALC_VALUE_H
+#define TARNCALC_VALUE_H
+
+#include <memory>
+
+#include <tarnlib.h>
+
+namespace tarncalc {
+
+/** A width and a reading of a vector. */
+struct Type {
+    int width;
+    bool isSigned;
+};
+
+struct Literal;
+
+/** A vector with its type. Between calls the bits of the top word above the width extend the
+ *  value, as the library expects them of an operand. */
+class Value {
+  public:
+    /** The value of a literal. `isCut` tells whether it is more than its width can hold. */
+    Value(const Literal& literal, bool& isCut);
+
+    const Type& GetType() const noexcept { return type_; }
+    const VectorWord* Words() const noexcept { return words_.get(); }
+
+    /** For an operation that writes its result here; RestoreTopWord must follow it. */
+    VectorWord* Words() noexcept { return words_.get(); }
+
+    /** Makes the value an operand of the given type, which is no narrower than its own: read with
+     *  the new sign, then extended by it. */
+    void Convert(Type type);
+
+    /** Gives the bits above the width what the type says: zeros, or copies of the top bit. */
+    void RestoreTopWord() noexcept;
+
+  private:
+    Type type_;
+    std::unique_ptr<VectorWord[]> words_;
+};
+
+}  // namespace tarncalc
+
+#endif
