@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "arith/pack.h"
+#include "arith/short.h"
 
 namespace tarn {
 namespace {
@@ -93,12 +93,10 @@ void CombineVectors(Result result, Operand a, SameWord aBeyond, Operand b,
 
 template <class Operation, class Extend>
 void CombineWide(Result result, Operand a, Operand b) noexcept {
-    if (AreShort(result.width, a.width, b.width)) {
-        const ShortValue aValue = LoadShort<Extend>(a), bValue = LoadShort<Extend>(b);
-        StoreShort(result, {Operation::Combine(aValue.limb, bValue.limb),
-                            aValue.unknown || bValue.unknown});
-        return;
-    }
+    const auto combine = [](auto x, auto y) -> decltype(x) {
+        return {Operation::Combine(x.number, y.number), x.unknown || y.unknown};
+    };
+    if (ComputeShort<Extend>(result, combine, a, b)) return;
     CombineVectors<Operation>(result, a, {ExtensionWord<Extend>(a)}, b, {ExtensionWord<Extend>(b)});
 }
 
@@ -109,11 +107,8 @@ template void CombineWide<Subtraction, ZeroExtend>(Result, Operand, Operand) noe
 
 template <class Extend>
 void NegateWide(Result result, Operand a) noexcept {
-    if (AreShort(result.width, a.width)) {
-        const ShortValue value = LoadShort<Extend>(a);
-        StoreShort(result, {0 - value.limb, value.unknown});
-        return;
-    }
+    const auto negate = [](auto x) -> decltype(x) { return {0 - x.number, x.unknown}; };
+    if (ComputeShort<Extend>(result, negate, a)) return;
     CombineVectors<Subtraction>(result, {0, nullptr}, {0}, a, {ExtensionWord<Extend>(a)});
 }
 
@@ -122,10 +117,8 @@ template void NegateWide<ZeroExtend>(Result, Operand) noexcept;
 
 template <class Extend>
 void PlusWide(Result result, Operand a) noexcept {
-    if (AreShort(result.width, a.width)) {
-        StoreShort(result, LoadShort<Extend>(a));
-        return;
-    }
+    const auto keep = [](auto x) { return x; };
+    if (ComputeShort<Extend>(result, keep, a)) return;
     // The unknown test runs first: a copy on top of the operand would still be right, but a copy
     // that is then overwritten with X would be done for nothing.
     if (result.width < 1) return;

@@ -7,9 +7,13 @@
 
 namespace tarn {
 
-// What addition and subtraction do with two limbs, and with two words and a carry or borrow.
+// What addition and subtraction do with two machine numbers, and with two words and a carry or
+// borrow.
 struct Addition {
-    static constexpr Limb Combine(Limb a, Limb b) noexcept { return a + b; }
+    template <class Number>
+    static constexpr Number Combine(Number a, Number b) noexcept {
+        return a + b;
+    }
     static CarryFlag Step(CarryFlag carry, std::uint32_t a, std::uint32_t b,
                           std::uint32_t* sum) noexcept {
         return AddWithCarry32(carry, a, b, sum);
@@ -17,7 +21,10 @@ struct Addition {
 };
 
 struct Subtraction {
-    static constexpr Limb Combine(Limb a, Limb b) noexcept { return a - b; }
+    template <class Number>
+    static constexpr Number Combine(Number a, Number b) noexcept {
+        return a - b;
+    }
     static CarryFlag Step(CarryFlag borrow, std::uint32_t a, std::uint32_t b,
                           std::uint32_t* difference) noexcept {
         return SubtractWithBorrow32(borrow, a, b, difference);

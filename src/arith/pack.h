@@ -20,28 +20,6 @@ inline void StoreLimb(VectorWord* to, Limb limb) noexcept {
     StoreWord(to + 1, limb >> kWordBits);
 }
 
-// A value of one or two words, extended to a limb; unknown where any of its bits is.
-struct ShortValue {
-    Limb limb;
-    bool unknown;
-};
-
-template <class Extend>
-inline ShortValue LoadShort(Operand operand) noexcept {
-    const Word low = LoadWord(operand.words);
-    const Word high = operand.width > kWordBits ? LoadWord(operand.words + 1) : Extend::Beyond(low);
-    return {PackWords(low, high), IsUnknown(low | high)};
-}
-
-// Stores one or two words, all X for an unknown value.
-inline void StoreShort(Result result, ShortValue value) noexcept {
-    const Word unknown = value.unknown ? kAllX : 0;
-    StoreWord(result.words, (value.limb & kValueBits) | unknown);
-    if (result.width > kWordBits) {
-        StoreWord(result.words + 1, (value.limb >> kWordBits) | unknown);
-    }
-}
-
 // limbs[0 .. LimbCount(count)) = the value of known words; false, with the limbs unspecified, where
 // a word has an unknown bit.
 bool PackKnown(Limb* limbs, const VectorWord* words, std::size_t count) noexcept;

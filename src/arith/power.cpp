@@ -8,6 +8,7 @@
 #include "arith/pack.h"
 #include "arith/product.h"
 #include "arith/scratch.h"
+#include "arith/short.h"
 
 namespace tarn {
 namespace {
@@ -65,22 +66,24 @@ Whole PowerOfWhole(Whole base, Operand exponent, std::size_t bits, std::size_t l
     return power;
 }
 
-// Everything in one limb: true where the widths allow it.
+// Everything in machine numbers, for an exponent of at most 64 bits; false where the widths forbid
+// it.
 template <class Extend>
 bool PowerShort(Result result, Operand base, Operand exponent) noexcept {
-    if (!AreShort(result.width, base.width, exponent.width)) return false;
-    ShortValue factor = LoadShort<Extend>(base);
-    const ShortValue stored = LoadShort<ZeroExtend>(exponent);
-    Limb left = stored.limb & (~Limb{0} >> (kLimbBits - exponent.width));
-    ShortValue power{1, factor.unknown || stored.unknown};
-    for (; left != 0; left >>= 1) {
-        if ((left & 1U) != 0) {
-            power.limb *= factor.limb;
+    if (!AreWithin<64>(exponent.width)) return false;
+    const Short<Limb> stored = LoadShort<Limb, ZeroExtend>(exponent);
+    const Limb bits = stored.number & (~Limb{0} >> (kLimbBits - exponent.width));
+    const auto raise = [&](auto factor) -> decltype(factor) {
+        decltype(factor) power{1, factor.unknown || stored.unknown};
+        for (Limb left = bits; left != 0; left >>= 1) {
+            if ((left & 1U) != 0) {
+                power.number *= factor.number;
+            }
+            factor.number *= factor.number;
         }
-        factor.limb *= factor.limb;
-    }
-    StoreShort(result, power);
-    return true;
+        return power;
+    };
+    return ComputeShort<Extend>(result, raise, base);
 }
 
 void StoreOne(Result result, bool negative) noexcept {
@@ -97,8 +100,7 @@ BaseClass Classify(Operand base) noexcept {
     const std::size_t count = base.Count();
     if (count == 0) return BaseClass::kZero;
     const Word first = LoadWord(base.words);
-    const bool isSigned = Extend::Beyond(kValueBits) != 0;
-    const Word above = isSigned && first == kValueBits ? kValueBits : Word{0};
+    const Word above = Extend::kIsSigned && first == kValueBits ? kValueBits : Word{0};
     for (std::size_t i = 1; i < count; ++i) {
         if (LoadWord(base.words + i) != above) return BaseClass::kOther;
     }

@@ -7,13 +7,14 @@
 #include "arith/natural/multiply_internal.h"
 #include "arith/natural/span.h"
 #include "arith/scratch.h"
+#include "arith/short.h"
 
 namespace tarn {
 namespace {
 
 // Up to this many limbs the operands are extended to the result's words on the stack and multiplied
 // as they are: finding their significant limbs would cost more than it saves.
-constexpr std::size_t kShortLimbs = 8;
+constexpr std::size_t kStackLimbs = 8;
 
 template <class Extend>
 bool PackExtended(Limb* limbs, Operand operand, std::size_t wordCount) noexcept {
@@ -29,10 +30,10 @@ bool PackExtended(Limb* limbs, Operand operand, std::size_t wordCount) noexcept 
 }
 
 template <class Extend>
-bool MultiplyShort(Result result, Operand a, Operand b) noexcept {
+bool MultiplyOnStack(Result result, Operand a, Operand b) noexcept {
     const std::size_t words = result.Count();
     const std::size_t limbs = LimbCount(words);
-    Limb aLimbs[kShortLimbs], bLimbs[kShortLimbs], product[kShortLimbs];
+    Limb aLimbs[kStackLimbs], bLimbs[kStackLimbs], product[kStackLimbs];
     if (!PackExtended<Extend>(aLimbs, a, words) || !PackExtended<Extend>(bLimbs, b, words)) {
         return false;
     }
@@ -111,15 +112,14 @@ std::size_t LowProductScratch(std::size_t aCount, std::size_t bCount, std::size_
 
 template <class Extend>
 void MultiplyWide(Result result, Operand a, Operand b) noexcept {
-    if (AreShort(result.width, a.width, b.width)) {
-        const ShortValue aValue = LoadShort<Extend>(a), bValue = LoadShort<Extend>(b);
-        StoreShort(result, {aValue.limb * bValue.limb, aValue.unknown || bValue.unknown});
-        return;
-    }
+    const auto multiply = [](auto x, auto y) -> decltype(x) {
+        return {x.number * y.number, x.unknown || y.unknown};
+    };
+    if (ComputeShort<Extend>(result, multiply, a, b)) return;
     const std::size_t count = result.Count();
     if (count == 0) return;
     const bool known = !HasUnknownFrom(count, a) && !HasUnknownFrom(count, b) &&
-                       (LimbCount(count) <= kShortLimbs ? MultiplyShort<Extend>(result, a, b)
+                       (LimbCount(count) <= kStackLimbs ? MultiplyOnStack<Extend>(result, a, b)
                                                         : MultiplyLong<Extend>(result, a, b));
     if (!known) {
         FillX(result);

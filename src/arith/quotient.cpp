@@ -4,6 +4,7 @@
 #include "arith/natural/span.h"
 #include "arith/pack.h"
 #include "arith/scratch.h"
+#include "arith/short.h"
 
 namespace tarn {
 namespace {
@@ -27,13 +28,11 @@ Whole DivideWholes(Whole a, Whole b, Scratch* scratch) noexcept {
 template <class Extend, Wanted kWanted>
 void DivideWide(Result result, Operand a, Operand b) noexcept {
     if (result.width < 1) return;
-    if (AreShort(result.width, a.width, b.width)) {
-        const ShortValue aValue = LoadShort<Extend>(a), bValue = LoadShort<Extend>(b);
-        const bool unknown = aValue.unknown || bValue.unknown || bValue.limb == 0;
-        const Limb limb = unknown ? 0 : DivideSmall<Extend, kWanted>(aValue.limb, bValue.limb);
-        StoreShort(result, {limb, unknown});
-        return;
-    }
+    const auto divide = [](auto x, auto y) -> decltype(x) {
+        if (x.unknown || y.unknown || y.number == 0) return {0, true};
+        return {DivideNumbers<Extend, kWanted>(x.number, y.number), false};
+    };
+    if (ComputeShort<Extend>(result, divide, a, b)) return;
     Scratch scratch;
     Whole dividend, divisor;
     Limb* const aLimbs = scratch.Take(LimbCount(a.Count()));

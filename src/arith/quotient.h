@@ -8,30 +8,20 @@ namespace tarn {
 
 enum class Wanted { kQuotient, kRemainder };
 
-// The value of a known word or limb pair as a sign and a magnitude.
-template <class Extend>
-struct SmallWhole {
-    std::uint64_t magnitude;
-    bool negative;
-
-    // `value` with its sign in bit 63.
-    explicit constexpr SmallWhole(std::uint64_t value) noexcept
-        : magnitude(value), negative(Extend::Beyond(value >> 32) != 0) {
-        if (negative) {
-            magnitude = 0 - magnitude;
-        }
+// The wanted one of a / b, truncated toward zero, and a % b with the sign of a, for machine numbers
+// and b other than 0. Magnitudes are unsigned, so that the most negative number has one.
+template <class Extend, Wanted kWanted, class Number>
+constexpr Number DivideNumbers(Number a, Number b) noexcept {
+    constexpr unsigned kTopBit = 8 * sizeof(Number) - 1;
+    const bool aNegative = Extend::kIsSigned && (a >> kTopBit) != 0;
+    const bool bNegative = Extend::kIsSigned && (b >> kTopBit) != 0;
+    a = aNegative ? 0 - a : a;
+    b = bNegative ? 0 - b : b;
+    if constexpr (kWanted == Wanted::kRemainder) {
+        return aNegative ? 0 - a % b : a % b;
+    } else {
+        return aNegative != bNegative ? 0 - a / b : a / b;
     }
-};
-
-// The wanted one of a / b, truncated toward zero, and a % b with the sign of a, for b other than 0.
-template <class Extend, Wanted kWanted>
-constexpr std::uint64_t DivideSmall(std::uint64_t aValue, std::uint64_t bValue) noexcept {
-    const SmallWhole<Extend> a(aValue), b(bValue);
-    const bool remainder = kWanted == Wanted::kRemainder;
-    const std::uint64_t magnitude =
-        remainder ? a.magnitude % b.magnitude : a.magnitude / b.magnitude;
-    const bool negative = remainder ? a.negative : a.negative != b.negative;
-    return negative ? 0 - magnitude : magnitude;
 }
 
 template <class Extend, Wanted kWanted>
@@ -48,7 +38,7 @@ inline void Divide(Result result, Operand a, Operand b) noexcept {
         }
         // Shifted up, a word's sign is the limb's; the quotient of two shifted values is that of
         // the values, the remainder is shifted like them.
-        const auto value = DivideSmall<Extend, kWanted>(aWord << 32, bWord << 32);
+        const auto value = DivideNumbers<Extend, kWanted>(aWord << 32, bWord << 32);
         StoreWord(result.words, kWanted == Wanted::kRemainder ? value >> 32 : value & kValueBits);
         return;
     }

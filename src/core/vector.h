@@ -26,12 +26,14 @@ struct Result {
 // bit 31 of the top word, of aval and of bval each for itself: storage holds copies of the sign
 // above the width.
 struct SignExtend {
+    static constexpr bool kIsSigned = true;
     static constexpr Word Beyond(Word top) noexcept {
         return ((top >> 31) & 0x0000000100000001) * kValueBits;
     }
 };
 
 struct ZeroExtend {
+    static constexpr bool kIsSigned = false;
     static constexpr Word Beyond(Word) noexcept { return 0; }
 };
 

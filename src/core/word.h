@@ -64,22 +64,22 @@ constexpr std::uint32_t LowMask(int n) noexcept {
     return 0xFFFFFFFFU >> (static_cast<unsigned>(kWordBits - n) & 31U);
 }
 
-// Whether every width is 1 to 32: one word each. Widths below 1 wrap to large numbers.
-template <class... Widths>
-constexpr bool AreOneWord(Widths... widths) noexcept {
-    return ((static_cast<unsigned>(widths) - 1U) | ...) < 32U;
+// Whether every width is 1 to kBits, a power of two. Widths below 1 wrap to large numbers.
+template <unsigned kBits, class... Widths>
+constexpr bool AreWithin(Widths... widths) noexcept {
+    return ((static_cast<unsigned>(widths) - 1U) | ...) < kBits;
 }
 
-// Whether every width is 1 to 64: one or two words each.
+// Whether every vector is one word.
 template <class... Widths>
-constexpr bool AreShort(Widths... widths) noexcept {
-    return ((static_cast<unsigned>(widths) - 1U) | ...) < 64U;
+constexpr bool AreOneWord(Widths... widths) noexcept {
+    return AreWithin<kWordBits>(widths...);
 }
 
 static_assert(WordCount(0) == 0 && WordCount(1) == 1 && WordCount(32) == 1 && WordCount(33) == 2);
 static_assert(LowMask(1) == 1 && LowMask(32) == 0xFFFFFFFF && LowMask(40) == 0xFF);
 static_assert(AreOneWord(1, 32) && !AreOneWord(0) && !AreOneWord(33) && !AreOneWord(5, -1));
-static_assert(AreShort(1, 64) && !AreShort(0) && !AreShort(65) && !AreShort(64, -1));
+static_assert(AreWithin<64>(1, 64) && !AreWithin<64>(65) && !AreWithin<64>(64, -1));
 
 }  // namespace tarn
 

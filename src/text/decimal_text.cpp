@@ -42,10 +42,9 @@ char UnknownCharacter(Operand value) noexcept {
 // count.
 template <class Extend>
 Whole TakeValue(Operand value, Limb* limbs) noexcept {
-    constexpr bool kIsSigned = Extend::Beyond(kValueBits) != 0;
     const std::size_t count = value.Count();
     Whole whole;
-    if (kIsSigned && AreTopBitsSet(value)) {
+    if (Extend::kIsSigned && AreTopBitsSet(value)) {
         PackWhole<ZeroExtend>(&whole, limbs, value, count);
         NegateLimbs(limbs, count);
         const std::size_t top = (count - 1) / 2;
@@ -87,7 +86,7 @@ char* Pad(char* first, const char* end, std::size_t field, bool zeroPad) noexcep
 template <class Extend>
 char* FormatDecimal(Operand value, DecimalField style) {
     if (value.width < 1) return EmptyText();
-    constexpr std::size_t kSignRoom = Extend::Beyond(kValueBits) != 0 ? 1 : 0;
+    constexpr std::size_t kSignRoom = Extend::kIsSigned ? 1 : 0;
     const std::size_t digits = DigitsOfWidth(static_cast<std::size_t>(value.width)) + kSignRoom;
     const std::size_t field =
         style.minDigits < 0 ? digits
