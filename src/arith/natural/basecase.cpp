@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "arith/natural/column.h"
 #include "arith/natural/multiply_internal.h"
 #include "arith/natural/span.h"
@@ -26,11 +24,12 @@ inline void MultiplyBand(Limb* result, const Limb* a, std::size_t aCount, const 
         AddColumn<column, kRows, kRows>(sum, a, b);
         result[column] = sum.Take();
     });
-    for (std::size_t column = kRows - 1; column < aCount; ++column) {
-        if constexpr (kInto == Into::kSum) sum.AddLimb(result[column]);
-        const Limb* last = a + column;
+    Limb* to = result + kRows - 1;
+    const Limb* const end = a + aCount;
+    for (const Limb* last = a + kRows - 1; last != end; ++last, ++to) {
+        if constexpr (kInto == Into::kSum) sum.AddLimb(*to);
         Unroll<kRows>([&](auto row) { sum.AddProduct(*(last - row), b[row]); });
-        result[column] = sum.Take();
+        *to = sum.Take();
     }
     if constexpr (kUpto == Upto::kEnd) {
         const Limb* top = a + aCount - kRows;
@@ -58,26 +57,6 @@ inline void FirstBand(Limb* result, const Limb* a, std::size_t aCount, const Lim
             return MultiplyBand<kBandRows, Into::kFresh, kUpto>(result, a, aCount, b);
     }
 }
-
-// Doubles a run of limbs and adds squares to it, block after block.
-class DoubledSum {
-  public:
-    template <std::size_t kCount>
-    void AddBlock(Limb* result, const Limb* a) noexcept {
-        Limb square[2 * kCount];
-        SquareFixed<kCount>(square, a);
-        Unroll<2 * kCount>([&](auto index) {
-            const Limb limb = result[index];
-            const Limb doubled = (limb << 1) | (below_ >> (kLimbBits - 1));
-            below_ = limb;
-            carry_ = AddWithCarry(carry_, doubled, square[index], result + index);
-        });
-    }
-
-  private:
-    Limb below_ = 0;
-    CarryFlag carry_ = 0;
-};
 
 }  // namespace
 
@@ -109,58 +88,6 @@ void MultiplyBasecase(Limb* result, const Limb* a, std::size_t aCount, const Lim
     FirstBand(result, a, aCount, b, first);
     for (std::size_t row = first == 0 ? kBandRows : first; row < bCount; row += kBandRows) {
         MultiplyBand<kBandRows, Into::kSum>(result + row, a, aCount, b + row);
-    }
-}
-
-// The products off the diagonal are gathered once, block by block, with the bands of the plain
-// product; then their sum is doubled and the squares of the blocks are added on the way.
-void SquareBasecase(Limb* result, const Limb* a, std::size_t count) noexcept {
-    switch (count) {
-        case 1:
-            return SquareFixed<1>(result, a);
-        case 2:
-            return SquareFixed<2>(result, a);
-        case 3:
-            return SquareFixed<3>(result, a);
-        case 4:
-            return SquareFixed<4>(result, a);
-        case 5:
-            return SquareFixed<5>(result, a);
-        case 6:
-            return SquareFixed<6>(result, a);
-        case 7:
-            return SquareFixed<7>(result, a);
-        case 8:
-            return SquareFixed<8>(result, a);
-        default:
-            break;
-    }
-    const std::size_t first = count % kBandRows;
-    std::size_t row = first == 0 ? kBandRows : first;
-    std::fill_n(result, row, Limb{0});
-    FirstBand(result + row, a + row, count - row, a, first);
-    for (; row + kBandRows < count; row += kBandRows) {
-        MultiplyBand<kBandRows, Into::kSum>(result + 2 * row + kBandRows, a + row + kBandRows,
-                                            count - row - kBandRows, a + row);
-    }
-    std::fill_n(result + 2 * count - kBandRows, kBandRows, Limb{0});
-
-    DoubledSum sum;
-    switch (first) {
-        case 1:
-            sum.AddBlock<1>(result, a);
-            break;
-        case 2:
-            sum.AddBlock<2>(result, a);
-            break;
-        case 3:
-            sum.AddBlock<3>(result, a);
-            break;
-        default:
-            break;
-    }
-    for (row = first; row < count; row += kBandRows) {
-        sum.AddBlock<kBandRows>(result + 2 * row, a + row);
     }
 }
 

@@ -3,9 +3,9 @@
 #define TARN_ARITH_NATURAL_COLUMN_H
 
 #include <cstddef>
-#include <utility>
 
 #include "arith/natural/limb.h"
+#include "arith/natural/unroll.h"
 
 namespace tarn {
 
@@ -42,15 +42,6 @@ class ColumnSum {
     Limb high_ = 0;
 };
 
-// Calls step with 0, 1 .. kCount - 1 as constants: a loop that is unrolled in every build.
-template <std::size_t kCount, class Step>
-inline void Unroll(Step&& step) noexcept {
-    [&]<std::size_t... kIndex>(std::index_sequence<kIndex...>) {
-        (step(std::integral_constant<std::size_t, kIndex>{}), ...);
-    }
-    (std::make_index_sequence<kCount>{});
-}
-
 // Adds column k of a * b, a of aCount limbs and b of bCount.
 template <std::size_t kColumn, std::size_t kACount, std::size_t kBCount>
 inline void AddColumn(ColumnSum& sum, const Limb* a, const Limb* b) noexcept {
@@ -68,28 +59,6 @@ inline void MultiplyFixed(Limb* result, const Limb* a, const Limb* b) noexcept {
     ColumnSum sum;
     Unroll<kResult>([&](auto column) {
         if constexpr (column < 2 * kCount - 1) AddColumn<column, kCount, kCount>(sum, a, b);
-        result[column] = sum.Take();
-    });
-}
-
-// result[0 .. 2 * kCount) = a * a. The products off the diagonal come in equal pairs, so each is
-// computed once and their sum doubled.
-template <std::size_t kCount>
-inline void SquareFixed(Limb* result, const Limb* a) noexcept {
-    ColumnSum sum;
-    Unroll<2 * kCount>([&](auto column) {
-        constexpr std::size_t kFirst = column < kCount ? 0 : column - kCount + 1;
-        ColumnSum pairs;
-        Unroll<(column + 1) / 2 - (kFirst < (column + 1) / 2 ? kFirst : (column + 1) / 2)>(
-            [&](auto index) {
-                constexpr std::size_t kA = kFirst + index;
-                pairs.AddProduct(a[kA], a[column - kA]);
-            });
-        pairs.Double();
-        sum.Add(pairs);
-        if constexpr (column % 2 == 0 && column < 2 * kCount - 1) {
-            sum.AddProduct(a[column / 2], a[column / 2]);
-        }
         result[column] = sum.Take();
     });
 }

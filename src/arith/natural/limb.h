@@ -33,14 +33,17 @@ constexpr DoubleLimb MultiplyLimbs(Limb a, Limb b) noexcept {
 
 using CarryFlag = unsigned char;
 
+#if defined(__x86_64__)
+// The type that the carry intrinsics store: as wide as a limb, but a type of its own, which
+// therefore must be told to alias it. A detour through a variable would cost a store to the stack.
+using IntrinsicLimb __attribute__((may_alias)) = unsigned long long;
+#endif
+
 // sum = a + b + carry; returns the carry out. The intrinsic keeps the carry in the processor's flag
 // from one limb to the next.
 inline CarryFlag AddWithCarry(CarryFlag carry, Limb a, Limb b, Limb* sum) noexcept {
 #if defined(__x86_64__)
-    unsigned long long out = 0;
-    const CarryFlag carryOut = _addcarry_u64(carry, a, b, &out);
-    *sum = out;
-    return carryOut;
+    return _addcarry_u64(carry, a, b, reinterpret_cast<IntrinsicLimb*>(sum));
 #else
     const DoubleLimb total = static_cast<DoubleLimb>(a) + b + carry;
     *sum = LowLimb(total);
@@ -51,10 +54,7 @@ inline CarryFlag AddWithCarry(CarryFlag carry, Limb a, Limb b, Limb* sum) noexce
 // difference = a - b - borrow; returns the borrow out.
 inline CarryFlag SubtractWithBorrow(CarryFlag borrow, Limb a, Limb b, Limb* difference) noexcept {
 #if defined(__x86_64__)
-    unsigned long long out = 0;
-    const CarryFlag borrowOut = _subborrow_u64(borrow, a, b, &out);
-    *difference = out;
-    return borrowOut;
+    return _subborrow_u64(borrow, a, b, reinterpret_cast<IntrinsicLimb*>(difference));
 #else
     const DoubleLimb total = static_cast<DoubleLimb>(a) - b - borrow;
     *difference = LowLimb(total);

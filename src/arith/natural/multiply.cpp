@@ -8,20 +8,58 @@
 #include "arith/natural/thresholds.h"
 
 namespace tarn {
+namespace {
+
+enum class Algorithm { kBasecase, kKaratsuba, kToom3, kNtt };
+
+Algorithm AlgorithmForProduct(std::size_t count) noexcept {
+    if (count < kKaratsubaThreshold) return Algorithm::kBasecase;
+    if (count < kToom3Threshold) return Algorithm::kKaratsuba;
+    return count < kNttThreshold ? Algorithm::kToom3 : Algorithm::kNtt;
+}
+
+Algorithm AlgorithmForSquare(std::size_t count) noexcept {
+    if (count < kSquareKaratsubaThreshold) return Algorithm::kBasecase;
+    if (count < kSquareToom3Threshold) return Algorithm::kKaratsuba;
+    return count < kSquareNttThreshold ? Algorithm::kToom3 : Algorithm::kNtt;
+}
+
+std::size_t ScratchOf(Algorithm algorithm, std::size_t count) noexcept {
+    switch (algorithm) {
+        case Algorithm::kBasecase:
+            return 0;
+        case Algorithm::kKaratsuba:
+            return MultiplyKaratsubaScratch(count);
+        case Algorithm::kToom3:
+            return MultiplyToom3Scratch(count);
+        default:
+            return MultiplyNttScratch(count, count);
+    }
+}
+
+}  // namespace
 
 void MultiplyBalanced(Limb* result, const Limb* a, const Limb* b, std::size_t count,
                       Limb* scratch) noexcept {
-    if (b == nullptr) {
-        if (count < kSquareKaratsubaThreshold) return SquareBasecase(result, a, count);
-    } else {
-        if (count < kKaratsubaThreshold) return MultiplyBasecase(result, a, count, b, count);
+    switch (b == nullptr ? AlgorithmForSquare(count) : AlgorithmForProduct(count)) {
+        case Algorithm::kBasecase:
+            if (b == nullptr) return SquareBasecase(result, a, count);
+            return MultiplyBasecase(result, a, count, b, count);
+        case Algorithm::kKaratsuba:
+            return MultiplyKaratsuba(result, a, b, count, scratch);
+        case Algorithm::kToom3:
+            return MultiplyToom3(result, a, b, count, scratch);
+        default:
+            return MultiplyNtt(result, a, count, b, count, scratch);
     }
-    MultiplyKaratsuba(result, a, b, count, scratch);
 }
 
+// Enough for the product and for the square.
 std::size_t MultiplyBalancedScratch(std::size_t count) noexcept {
-    if (count < std::min(kKaratsubaThreshold, kSquareKaratsubaThreshold)) return 0;
-    return MultiplyKaratsubaScratch(count);
+    const Algorithm product = AlgorithmForProduct(count);
+    const Algorithm square = AlgorithmForSquare(count);
+    const std::size_t forProduct = ScratchOf(product, count);
+    return product == square ? forProduct : std::max(forProduct, ScratchOf(square, count));
 }
 
 // The product of each piece is written where it belongs; its low half covers the high half of the
@@ -54,7 +92,10 @@ void Multiply(Limb* result, const Limb* a, std::size_t aCount, const Limb* b, st
         std::swap(aCount, bCount);
     }
     if (bCount < kKaratsubaThreshold) return MultiplyBasecase(result, a, aCount, b, bCount);
-    if (aCount == bCount) return MultiplyBalanced(result, a, b, aCount, scratch);
+    if (aCount == bCount) {
+        return MultiplyBalanced(result, a, a == b ? nullptr : b, aCount, scratch);
+    }
+    if (bCount >= kNttThreshold) return MultiplyNtt(result, a, aCount, b, bCount, scratch);
     MultiplyPieces(result, a, aCount, b, bCount, scratch);
 }
 
@@ -62,6 +103,7 @@ std::size_t MultiplyScratch(std::size_t aCount, std::size_t bCount) noexcept {
     if (aCount < bCount) std::swap(aCount, bCount);
     if (bCount < kKaratsubaThreshold) return 0;
     if (aCount == bCount) return MultiplyBalancedScratch(aCount);
+    if (bCount >= kNttThreshold) return MultiplyNttScratch(aCount, bCount);
     return MultiplyPiecesScratch(aCount, bCount);
 }
 

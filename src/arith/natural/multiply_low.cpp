@@ -40,12 +40,15 @@ std::size_t MultiplyLowMuldersScratch(std::size_t count) noexcept {
 void MultiplyLow(Limb* result, const Limb* a, const Limb* b, std::size_t count,
                  Limb* scratch) noexcept {
     if (count < kMuldersThreshold) return MultiplyLowBasecase(result, a, b, count);
-    MultiplyLowMulders(result, a, b, count, scratch);
+    if (count < kLowByFullThreshold) return MultiplyLowMulders(result, a, b, count, scratch);
+    MultiplyBalanced(scratch, a, b, count, scratch + 2 * count);
+    std::copy_n(scratch, count, result);
 }
 
 std::size_t MultiplyLowScratch(std::size_t count) noexcept {
     if (count < kMuldersThreshold) return 0;
-    return MultiplyLowMuldersScratch(count);
+    if (count < kLowByFullThreshold) return MultiplyLowMuldersScratch(count);
+    return 2 * count + MultiplyBalancedScratch(count);
 }
 
 }  // namespace tarn

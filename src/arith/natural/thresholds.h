@@ -1,5 +1,5 @@
-// Where one algorithm takes over from the next, in limbs: the smallest operand for which the faster
-// one pays. Each figure comes from the program named above it.
+// Where one algorithm takes over from the next: the smallest count of limbs for which the faster
+// one pays. The program named above a group measures both sides of each of its figures.
 #ifndef TARN_ARITH_NATURAL_THRESHOLDS_H
 #define TARN_ARITH_NATURAL_THRESHOLDS_H
 
@@ -7,10 +7,20 @@
 
 namespace tarn {
 
-// bench/tune_multiply
-inline constexpr std::size_t kKaratsubaThreshold = 28;
-inline constexpr std::size_t kSquareKaratsubaThreshold = 40;
-inline constexpr std::size_t kMuldersThreshold = 48;
+// bench/tune_multiply: a balanced product. The shorter operand's count decides for others.
+inline constexpr std::size_t kKaratsubaThreshold = 18;
+inline constexpr std::size_t kToom3Threshold = 90;
+inline constexpr std::size_t kNttThreshold = 2300;
+
+// bench/tune_multiply: a square.
+inline constexpr std::size_t kSquareKaratsubaThreshold = 28;
+inline constexpr std::size_t kSquareToom3Threshold = 105;
+inline constexpr std::size_t kSquareNttThreshold = 2500;
+
+// bench/tune_multiply: the low half of a product; from the second figure on the full product is no
+// slower.
+inline constexpr std::size_t kMuldersThreshold = 60;
+inline constexpr std::size_t kLowByFullThreshold = 3000;
 
 // Chunks of 19 digits up to which decimal digits are gathered chunk by chunk; above, by halves.
 // Measured by bench/tune_divide.cpp.
