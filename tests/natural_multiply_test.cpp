@@ -1,99 +1,18 @@
 // The product kernels on naturals, each algorithm on its own, against GMP.
-#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <gmp.h>
 #include <gtest/gtest.h>
-#include <random>
-#include <string>
-#include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "arith/natural/multiply.h"
 #include "arith/natural/multiply_internal.h"
-#include "arith/natural/span.h"
 #include "arith/natural/thresholds.h"
+#include "natural_support.h"
 
 namespace tarn {
 namespace {
-
-static_assert(std::is_same_v<Limb, mp_limb_t>, "GMP takes our limbs as they are");
-
-using Limbs = std::vector<Limb>;
-
-// Operands that break carries: each kind is hard on another step.
-enum class Kind { kRandom, kRuns, kOnes, kSingleBit, kZeroTop, kZero, kCount };
-
-class Generator {
-  public:
-    explicit Generator(std::uint64_t seed) : random_(seed) {}
-
-    Limbs Take(std::size_t count, Kind kind) {
-        Limbs limbs(count, 0);
-        switch (kind) {
-            case Kind::kRuns:
-                FillRuns(limbs);
-                break;
-            case Kind::kOnes:
-                std::fill(limbs.begin(), limbs.end(), ~Limb{0});
-                break;
-            case Kind::kSingleBit:
-                limbs[random_() % count] = Limb{1} << (random_() % kLimbBits);
-                break;
-            case Kind::kZero:
-                break;
-            default:
-                std::generate(limbs.begin(), limbs.end(), std::ref(random_));
-                break;
-        }
-        if (kind == Kind::kZeroTop) {
-            const auto zeros = static_cast<std::ptrdiff_t>(random_() % count);
-            std::fill(limbs.end() - zeros, limbs.end(), Limb{0});
-        }
-        return limbs;
-    }
-
-    Kind AnyKind() { return static_cast<Kind>(random_() % static_cast<int>(Kind::kCount)); }
-    std::size_t Between(std::size_t first, std::size_t last) {
-        return first + random_() % (last - first + 1);
-    }
-
-  private:
-    void FillRuns(Limbs& limbs) {
-        const std::size_t width = limbs.size() * kLimbBits;
-        bool set = random_() % 2 == 0;
-        for (std::size_t index = 0; index < width; set = !set) {
-            std::size_t run = 1 + random_() % (random_() % 4 == 0 ? 300 : 70);
-            for (; run > 0 && index < width; --run, ++index) {
-                if (set) limbs[index / kLimbBits] |= Limb{1} << (index % kLimbBits);
-            }
-        }
-    }
-
-    std::mt19937_64 random_;
-};
-
-// Storage of a fixed count of limbs between two guards, so that a stray write shows.
-class Guarded {
-  public:
-    explicit Guarded(std::size_t count) : limbs_(count + 2 * kGuard, kPattern), count_(count) {}
-    Limb* Data() { return limbs_.data() + kGuard; }
-    Limbs Value() const {
-        const auto first = limbs_.begin() + kGuard;
-        return {first, first + static_cast<std::ptrdiff_t>(count_)};
-    }
-    bool IsIntact() const {
-        const auto isPattern = [](Limb limb) { return limb == kPattern; };
-        return std::all_of(limbs_.begin(), limbs_.begin() + kGuard, isPattern) &&
-               std::all_of(limbs_.end() - kGuard, limbs_.end(), isPattern);
-    }
-
-  private:
-    static constexpr std::ptrdiff_t kGuard = 8;
-    static constexpr Limb kPattern = 0xA5C3F00DDEADBEA7;
-    Limbs limbs_;
-    std::size_t count_;
-};
 
 Limbs ExpectedProduct(const Limbs& a, const Limbs& b) {
     Limbs product(a.size() + b.size());
@@ -213,6 +132,7 @@ std::vector<Form> Forms() {
         Balanced("Toom 3", MultiplyToom3, MultiplyToom3Scratch, Range(kToom3Minimum, 5 * k)),
         Squared("square Toom 3", MultiplyToom3, MultiplyToom3Scratch, Range(kToom3Minimum, 5 * k)),
         Balanced("transform", Transform, TransformScratch, Range(1, 70)),
+        Balanced("wider transform", Transform, TransformScratch, {150, 300, 431, 700, 1100, 1750}),
         Squared("square transform", Transform, TransformScratch, Range(1, 70)),
         Low("Mulders", MultiplyLowMulders, MultiplyLowMuldersScratch,
             Range(kMuldersMinimum, 3 * k)),
@@ -262,6 +182,38 @@ TEST(NaturalMultiply, UnbalancedEqualsGmp) {
         const Limbs a = generator.Take(aCount, generator.AnyKind());
         const Limbs b = generator.Take(bCount, generator.AnyKind());
         ASSERT_NO_FATAL_FAILURE(CheckUnbalanced(a, b));
+    }
+}
+
+// Transforms of one, three and five rows, with an even and with an odd number of levels, beyond what
+// they do level by level; and the pieces of long operands.
+TEST(NaturalMultiply, WideEqualsGmp) {
+    Generator generator(13);
+    const std::pair<std::size_t, std::size_t> shapes[] = {
+        {3600, 3400},  {5000, 5000},   {8000, 6500},  {13000, 13000},   {16384, 16384},
+        {16384, 100},  {16384, 1500},  {16384, 4000}, {20000, 9},       {40000, 3001},
+        {99999, 2500}, {312500, 5000}, {312500, 40},  {312500, 312500},
+    };
+    for (const auto& [aCount, bCount] : shapes) {
+        const Limbs a = generator.Take(aCount, Kind::kOnes);
+        const Limbs b = generator.Take(bCount, Kind::kOnes);
+        ASSERT_NO_FATAL_FAILURE(CheckUnbalanced(a, b));
+        const Limbs c = generator.Take(aCount, Kind::kRandom);
+        const Limbs d = generator.Take(bCount, Kind::kRuns);
+        ASSERT_NO_FATAL_FAILURE(CheckUnbalanced(d, c));
+    }
+}
+
+TEST(NaturalMultiply, WideSquareAndLowHalfEqualGmp) {
+    Generator generator(17);
+    const Form square = Squared("any square", AnySquare, SquareScratch, {});
+    const Form low = Low("any low", MultiplyLow, MultiplyLowScratch, {});
+    for (const std::size_t count : {1500U, 2700U, 4100U, 16384U}) {
+        const Limbs a = generator.Take(count, Kind::kRandom);
+        const Limbs b = generator.Take(count, Kind::kOnes);
+        ASSERT_NO_FATAL_FAILURE(Check(square, a, a));
+        ASSERT_NO_FATAL_FAILURE(Check(square, b, b));
+        ASSERT_NO_FATAL_FAILURE(Check(low, a, b));
     }
 }
 

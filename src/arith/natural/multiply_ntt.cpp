@@ -1,15 +1,11 @@
 // Products by convolution: the operands are cut into coefficients of 48 to 60 bits, the coefficients
 // of the product are computed modulo two primes and put together by the Chinese remainder theorem.
-//
-// A transform of N = 3 * 2^k coefficients is done as three rows of M = 2^k, one for each residue of
-// the coefficient's index modulo 3: as 3 and M have no common factor, rows and columns need no
-// twiddle factors between them (I. J. Good, 1958; L. H. Thomas, 1963).
 #include <algorithm>
-#include <array>
 #include <bit>
 
 #include "arith/natural/multiply_internal.h"
 #include "arith/natural/ntt.h"
+#include "arith/natural/ntt_columns.h"
 
 namespace tarn {
 namespace {
@@ -28,7 +24,7 @@ struct Plan {
     int bits;              // of a coefficient
     std::size_t aTerms;    // coefficients of a
     std::size_t bTerms;    // and of b
-    std::size_t rows;      // 1 or 3
+    std::size_t rows;      // 1, 3 or 5
     std::size_t rowCount;  // coefficients of a row, a power of two
     std::size_t Count() const noexcept { return rows * rowCount; }
 };
@@ -41,12 +37,16 @@ Plan MakePlan(std::size_t aCount, std::size_t bCount) noexcept {
     const auto bits = static_cast<std::size_t>(plan.bits);
     plan.aTerms = CeilingOf(aCount * kLimbBits, bits);
     plan.bTerms = CeilingOf(bCount * kLimbBits, bits);
-    const std::size_t count = std::max<std::size_t>(plan.aTerms + plan.bTerms - 1, 8);
-    plan.rowCount = std::bit_ceil(count);
+    const std::size_t count = std::max<std::size_t>(plan.aTerms + plan.bTerms - 1, 16);
+    const std::size_t power = std::bit_ceil(count);
     plan.rows = 1;
-    if (count <= plan.rowCount / 4 * 3) {
-        plan.rowCount /= 4;
+    plan.rowCount = power;
+    if (count <= power / 8 * 5) {
+        plan.rows = 5;
+        plan.rowCount = power / 8;
+    } else if (count <= power / 4 * 3) {
         plan.rows = 3;
+        plan.rowCount = power / 4;
     }
     return plan;
 }
@@ -73,51 +73,10 @@ void Cut(Limb* x, std::size_t count, const Limb* a, std::size_t aCount, int bits
     std::fill(x + i, x + count, Limb{0});
 }
 
-// The columns of three rows: coefficient i of the product's ring goes to row i mod 3 of column
-// i mod M, and the column is transformed. In place: column j uses x[j], x[j + M] and x[j + 2M] only.
-void TransformColumns(const NttPrime& prime, Limb* x, std::size_t rowCount) noexcept {
-    const Factor& root = prime.CubeRoot();
-    const std::size_t step = rowCount % 3;
-    std::size_t row = 0;
-    for (std::size_t j = 0; j < rowCount; ++j) {
-        Limb* const at[3] = {x + j, x + rowCount + j, x + 2 * rowCount + j};
-        std::array<Limb, 3> y{};
-        y[row] = *at[0];
-        y[(row + step) % 3] = *at[1];
-        y[(row + 2 * step) % 3] = *at[2];
-        const Limb turned = prime.Times(y[1] - y[2] + prime.p, root);
-        *at[0] = y[0] + y[1] + y[2];
-        *at[1] = y[0] - y[2] + prime.p + turned;
-        *at[2] = y[0] - y[1] + prime.p + prime.twice - turned;
-        row = row == 2 ? 0 : row + 1;
-    }
-}
-
-// Back from rows, residues below 2p, to coefficients in their order, below 4p and three times the
-// value.
-void RestoreColumns(const NttPrime& prime, Limb* x, std::size_t rowCount) noexcept {
-    const Factor& root = prime.CubeRoot();
-    const std::size_t step = rowCount % 3;
-    std::size_t row = 0;
-    for (std::size_t j = 0; j < rowCount; ++j) {
-        Limb* const at[3] = {x + j, x + rowCount + j, x + 2 * rowCount + j};
-        const Limb y0 = *at[0], y1 = *at[1], y2 = *at[2];
-        const Limb turned = prime.Times(y2 - y1 + prime.twice, root);
-        const std::array<Limb, 3> z = {
-            prime.Halve(y0 + y1) + y2,
-            prime.Halve(y0 - y1 + prime.twice) + turned,
-            prime.Halve(y0 - y2 + prime.twice) - turned + prime.twice,
-        };
-        *at[0] = z[row];
-        *at[1] = z[(row + step) % 3];
-        *at[2] = z[(row + 2 * step) % 3];
-        row = row == 2 ? 0 : row + 1;
-    }
-}
-
 void ForwardRows(const NttPrime& prime, const NttTransform& transform, Limb* x,
                  const Plan& plan) noexcept {
-    if (plan.rows == 3) TransformColumns(prime, x, plan.rowCount);
+    if (plan.rows == 3) TransformColumns<3>(prime, x, plan.rowCount);
+    if (plan.rows == 5) TransformColumns<5>(prime, x, plan.rowCount);
     for (std::size_t row = 0; row < plan.rows; ++row)
         transform.Forward(x + row * plan.rowCount);
 }
@@ -140,7 +99,8 @@ void Convolve(const NttPrime& prime, const Plan& plan, Limb* x, Limb* y, Limb* t
     }
     for (std::size_t row = 0; row < plan.rows; ++row)
         transform.Inverse(x + row * plan.rowCount);
-    if (plan.rows == 3) RestoreColumns(prime, x, plan.rowCount);
+    if (plan.rows == 3) RestoreColumns<3>(prime, x, plan.rowCount);
+    if (plan.rows == 5) RestoreColumns<5>(prime, x, plan.rowCount);
 }
 
 // What takes off the constant that Convolve leaves: 2^64 / count.

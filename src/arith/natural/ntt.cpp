@@ -31,14 +31,6 @@ NttTransform::NttTransform(const NttPrime& prime, Limb* table, std::size_t count
     }
 }
 
-// The constant of block b > 0 with top bit 2^k is r^e with e an odd multiple of 2^-k' of half a
-// turn; flipping the bits of b below the top one gives half a turn less e, which is minus the
-// inverse.
-Factor NttTransform::MinusInverseRootOf(std::size_t block) const noexcept {
-    if (block == 0) return prime_.MinusOne();
-    return RootOf(block ^ (std::bit_floor(block) - 1));
-}
-
 // Two levels: a block of 4 stride residues into four.
 inline void NttTransform::ForwardStep(Limb* x, std::size_t stride,
                                       std::size_t block) const noexcept {
@@ -66,9 +58,14 @@ inline void NttTransform::ForwardStep(Limb* x, std::size_t stride,
 inline void NttTransform::InverseStep(Limb* x, std::size_t stride,
                                       std::size_t block) const noexcept {
     const NttPrime& prime = prime_;
-    const Factor upper = MinusInverseRootOf(block);
-    const Factor left = MinusInverseRootOf(2 * block);
-    const Factor right = MinusInverseRootOf(2 * block + 1);
+    // The constant of a block b > 0 with top bit 2^k is half a turn times an odd multiple of
+    // 2^-(k + 1) below 1. Flipping the bits of b under the top one takes that multiple from 1, which
+    // gives minus the inverse.
+    const bool isFirst = block == 0;
+    const std::size_t mirror = isFirst ? 0 : block ^ (std::bit_floor(block) - 1);
+    const Factor upper = isFirst ? prime.MinusOne() : RootOf(mirror);
+    const Factor left = isFirst ? prime.MinusOne() : RootOf(2 * mirror + 1);
+    const Factor right = RootOf(isFirst ? 1 : 2 * mirror);
     for (std::size_t i = 0; i < stride; ++i) {
         Limb* at = x + i;
         const Limb y0 = at[0];

@@ -25,7 +25,6 @@ class NttTransform {
     Factor RootOf(std::size_t block) const noexcept {
         return {table_[2 * block], table_[2 * block + 1]};
     }
-    Factor MinusInverseRootOf(std::size_t block) const noexcept;
     void ForwardBlock(Limb* x, std::size_t count, std::size_t block) const noexcept;
     void InverseBlock(Limb* x, std::size_t count, std::size_t block) const noexcept;
     void ForwardStep(Limb* x, std::size_t stride, std::size_t block) const noexcept;
