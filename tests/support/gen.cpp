@@ -1,5 +1,7 @@
 #include "support/gen.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <csignal>
 #include <cstdlib>
@@ -102,9 +104,10 @@ int Gen::RunLength() {
 // Adds runs of ones (which count `weight` in a bit's number) between runs of zeros.
 void Gen::AddRuns(Vec& vec, unsigned weight) {
     bool isOne = OneIn(2);
+    const bool isOneRun = OneIn(8);
     for (std::size_t i = 0; i < vec.bits.size(); isOne = !isOne) {
-        const std::size_t end =
-            std::min(vec.bits.size(), i + static_cast<std::size_t>(RunLength()));
+        const std::size_t runEnd = i + static_cast<std::size_t>(RunLength());
+        const std::size_t end = isOneRun ? vec.bits.size() : std::min(vec.bits.size(), runEnd);
         for (; i < end; ++i) {
             const unsigned old = static_cast<unsigned>(vec.bits[i]);
             vec.bits[i] = static_cast<Logic>(isOne ? old + weight : old);
@@ -160,9 +163,8 @@ TwoOperandDraw Gen::TwoOperands(bool fourState) {
 std::string Gen::Replay() const {
     const testing::TestInfo* const test = testing::UnitTest::GetInstance()->current_test_info();
     std::ostringstream out;
-    out << "replay: TARNLIB_SEED=" << seed_
-        << " TARNLIB_RUNS=1 tarnlib_tests --gtest_filter=" << test->test_suite_name() << '.'
-        << test->name();
+    out << "replay: TARNLIB_SEED=" << seed_ << " TARNLIB_RUNS=1 " << program_invocation_short_name
+        << " --gtest_filter=" << test->test_suite_name() << '.' << test->name();
     return out.str();
 }
 

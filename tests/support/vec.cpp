@@ -121,7 +121,7 @@ Vec operator""_v(const char* text, std::size_t length) {
 }
 
 std::ostream& operator<<(std::ostream& out, const Vec& vec) {
-    constexpr std::size_t kShown = 12;
+    constexpr std::size_t kShown = 4;
     const std::vector<VectorWord> words = ToWords(vec);
     const auto flags = out.flags();
     out << "Words(" << std::dec << vec.width << ", {" << std::hex;

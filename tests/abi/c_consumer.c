@@ -1,0 +1,53 @@
+/* Generated code is C: calls a function of each family and exits with 1 where a result is wrong. */
+#include <stdio.h>
+#include <string.h>
+
+#include <tarnlib.h>
+
+static int failures = 0;
+
+static void Check(int isRight, const char* what) {
+    if (!isRight) {
+        fprintf(stderr, "c_consumer: wrong result: %s\n", what);
+        ++failures;
+    }
+}
+#define CHECK(condition) Check((condition) != 0, #condition)
+
+static void CheckVectors(void) {
+    VectorWord wide[2] = {{7, 7}, {7, 7}};
+    const VectorWord minusOne = {0xFFFFFFFF, 0};
+    tarn_SignedCopy(40, wide, 8, &minusOne);
+    CHECK(wide[1].aval == 0xFFFFFFFF && wide[1].bval == 0);
+    tarn_UnsignedConvertLong(64, wide, UINT64_C(0x123456789));
+    CHECK(wide[0].aval == 0x23456789 && wide[1].aval == 1);
+    CHECK(tarn_LogicVectorLUT[TARN_LOGIC_X].aval == 1 && ClassAEB == 0);
+}
+
+static void CheckArithmetic(void) {
+    VectorWord sum = {0, 0};
+    const VectorWord a = {0xFF, 0}, b = {1, 0};
+    tarn_UnsignedAdd(8, &sum, 8, &a, 8, &b);
+    CHECK(sum.aval == 0x100 && sum.bval == 0);
+    tarn_Dec(8, &sum);
+    CHECK(sum.aval == 0xFF);
+}
+
+static void CheckSelects(void) {
+    VectorWord field = {0, 0};
+    const VectorWord source[2] = {{0xC0000000, 0x80000000}, {2, 0}};
+    tarn_Partselect(&field, source, 30, 4);
+    CHECK(field.aval == 0xB && field.bval == 2);
+}
+
+static void CheckText(void) {
+    CHECK(strcmp(tarn_CopyNToGlobalBuffer("abcdef", 3), "abc") == 0);
+}
+
+int main(void) {
+    CheckVectors();
+    CheckArithmetic();
+    CheckSelects();
+    CheckText();
+    return failures > 0;
+}

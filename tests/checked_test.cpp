@@ -1,0 +1,38 @@
+// The checked build names the export, the broken duty and the values, and aborts.
+#include <gtest/gtest.h>
+
+#include <tarnlib.h>
+
+namespace tarn::test {
+namespace {
+
+TEST(CheckedDeathTest, ReportsPartlyOverlappingStorage) {
+    VectorWord words[4] = {};
+    EXPECT_DEATH(tarn_SignedAdd(64, words + 1, 96, words, 64, words + 1),
+                 "tarn_SignedAdd.*resultWidth, result, aWidth, a\\)"
+                 ".*resultWidth = 64, result = 0x[0-9a-f]+, aWidth = 96, a = 0x");
+    EXPECT_DEATH(tarn_UnsignedCopy(64, words, 64, words + 1),
+                 "tarn_UnsignedCopy.*sourceWidth = 64");
+    EXPECT_DEATH(tarn_UnsignedCopy(64, words + 1, 64, words), "tarn_UnsignedCopy.*AreSameOrApart");
+    tarn_UnsignedCopy(64, words + 2, 64, words);
+}
+
+TEST(CheckedDeathTest, ReportsMissingAndMisalignedVectors) {
+    VectorWord words[2] = {};
+    EXPECT_DEATH(tarn_Inc(1, nullptr), "tarn_Inc.*IsVector\\(width, v\\).*width = 1, v = 0");
+    EXPECT_DEATH(tarn_UnsignedConvert(0, nullptr, 7), "tarn_UnsignedConvert.*value = 7");
+    EXPECT_DEATH(tarn_SignedMinus(8, words, 8, nullptr), "tarn_SignedMinus.*aWidth = 8, a = 0");
+    const std::uintptr_t odd = reinterpret_cast<std::uintptr_t>(words) + 2;
+    EXPECT_DEATH(tarn_Dec(8, reinterpret_cast<VectorWord*>(odd)), "tarn_Dec.*IsVector");
+    tarn_Inc(0, nullptr);
+}
+
+TEST(CheckedDeathTest, ReportsArgumentsOutOfRange) {
+    VectorWord words[2] = {};
+    EXPECT_DEATH(tarn_Partselect(words, words, 32, 1),
+                 "tarn_Partselect.*offset < 32U.*offset = 32, width = 1");
+    EXPECT_DEATH(tarn_CopyToGlobalBuffer(nullptr), "tarn_CopyToGlobalBuffer.*text = 0");
+}
+
+}  // namespace
+}  // namespace tarn::test
