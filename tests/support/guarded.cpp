@@ -1,8 +1,8 @@
 #include "support/guarded.h"
 
 #include <algorithm>
-#include <cstring>
 #include <new>
+#include <string>
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -54,11 +54,16 @@ std::byte* GuardedBlock::Place(std::size_t byteCount, Edge edge) {
     return placed_;
 }
 
-const char* GuardedBlock::PlaceText(std::string_view text) {
-    char* const placed = reinterpret_cast<char*>(Place(text.size() + 1, Edge::kEndsAtPage));
-    std::copy(text.begin(), text.end(), placed);
-    placed[text.size()] = '\0';
+const char* GuardedBlock::PlaceCharacters(std::string_view characters, Edge edge) {
+    char* const placed = reinterpret_cast<char*>(Place(characters.size(), edge));
+    std::copy(characters.begin(), characters.end(), placed);
     return placed;
+}
+
+const char* GuardedBlock::PlaceText(std::string_view text, Edge edge) {
+    std::string terminated(text);
+    terminated.push_back('\0');
+    return PlaceCharacters(terminated, edge);
 }
 
 bool GuardedBlock::MarginsAreIntact() const {

@@ -23,8 +23,9 @@ class GuardedBlock {
     // Exactly byteCount bytes. What an earlier call returned is no longer valid.
     std::byte* Place(std::size_t byteCount, Edge edge);
 
-    // A text whose terminator is the last byte before an unmapped page.
-    const char* PlaceText(std::string_view text);
+    // A text and, where it is to have one, its terminator.
+    const char* PlaceText(std::string_view text, Edge edge);
+    const char* PlaceCharacters(std::string_view characters, Edge edge);
 
     // Whether nothing was written close to the placed bytes on a side where memory is mapped.
     bool MarginsAreIntact() const;

@@ -1,0 +1,157 @@
+// The text buffer, watched from outside: this program replaces the array forms of new and delete,
+// and loads and unloads the library for each test, which so begins with a new buffer.
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <new>
+#include <string>
+
+#include <tarnlib/text.h>
+
+#include "support/guarded.h"
+
+namespace {
+
+struct LiveArray {
+    const void* address;
+    std::size_t byteCount;
+};
+LiveArray liveArrays[256] = {};
+std::size_t mostBytes = SIZE_MAX;
+
+LiveArray* FindArray(const void* address) {
+    for (LiveArray& array : liveArrays) {
+        if (array.address == address) return &array;
+    }
+    return nullptr;
+}
+
+std::size_t CapacityOf(const void* address) {
+    const LiveArray* const array = FindArray(address);
+    return array == nullptr ? 0 : array->byteCount;
+}
+
+}  // namespace
+
+void* operator new[](std::size_t byteCount) {
+    void* const address = byteCount > mostBytes ? nullptr : std::malloc(byteCount);
+    if (address == nullptr) throw std::bad_alloc();
+    if (LiveArray* const unused = FindArray(nullptr)) *unused = {address, byteCount};
+    return address;
+}
+
+void operator delete[](void* address) noexcept {
+    LiveArray* const array = address == nullptr ? nullptr : FindArray(address);
+    if (array != nullptr) *array = {};
+    std::free(address);
+}
+
+void operator delete[](void* address, std::size_t) noexcept {
+    operator delete[](address);
+}
+
+namespace tarn::test {
+namespace {
+
+class TextBuffer : public testing::Test {
+  protected:
+    void SetUp() override {
+        library_ = dlopen(TARNLIB_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+        ASSERT_NE(library_, nullptr) << dlerror();
+        Find("tarn_GetGlobalBuffer", &get);
+        Find("tarn_CopyToGlobalBuffer", &copy);
+        Find("tarn_CopyNToGlobalBuffer", &copyN);
+    }
+
+    void TearDown() override {
+        if (library_ == nullptr) return;
+        const void* const last = get(0);
+        dlclose(library_);
+        ASSERT_EQ(dlopen(TARNLIB_LIBRARY, RTLD_NOW | RTLD_NOLOAD), nullptr);
+        EXPECT_EQ(CapacityOf(last), 0U) << "the buffer outlived the library";
+    }
+
+    template <class Function>
+    void Find(const char* name, Function* function) {
+        *function = reinterpret_cast<Function>(dlsym(library_, name));
+        ASSERT_NE(*function, nullptr) << name;
+    }
+
+    decltype(&tarn_GetGlobalBuffer) get = nullptr;
+    decltype(&tarn_CopyToGlobalBuffer) copy = nullptr;
+    decltype(&tarn_CopyNToGlobalBuffer) copyN = nullptr;
+    GuardedBlock block;
+
+  private:
+    void* library_ = nullptr;
+};
+
+TEST_F(TextBuffer, CapacityDoublesFromTenAndNeverShrinks) {
+    const std::pair<unsigned, std::size_t> rows[] = {
+        {0, 10},    {9, 10},  {10, 20},   {19, 20},   {20, 40},         {159, 160},
+        {160, 320}, {3, 320}, {319, 320}, {320, 640}, {99'999, 163'840}};
+    for (const auto& [count, capacity] : rows) {
+        const char* const text = get(count);
+        EXPECT_EQ(CapacityOf(text), capacity) << count;
+        EXPECT_EQ(text[count], '\0') << count;
+    }
+}
+
+TEST_F(TextBuffer, GrowthMovesTheWholeContents) {
+    char* const before = get(9);
+    std::memcpy(before, "ab\0cdefgh\0", 10);
+    const char* const after = get(100);
+    EXPECT_EQ(CapacityOf(after), 160U);
+    EXPECT_EQ(std::memcmp(after, "ab\0cdefgh\0", 10), 0);
+    EXPECT_EQ(CapacityOf(before), 0U) << "the old storage is still there";
+}
+
+TEST_F(TextBuffer, CopiesTextsThatEndAtAPage) {
+    for (const std::string text :
+         {"", "a", "nine char", "ten chars!", "far more than ten characters"}) {
+        EXPECT_EQ(copy(block.PlaceText(text, Edge::kEndsAtPage)), text);
+    }
+    EXPECT_EQ(CapacityOf(copy("")), 40U);
+}
+
+TEST_F(TextBuffer, CopiesCountsOfCharacters) {
+    std::memset(get(9), '#', 9);
+    EXPECT_EQ(std::string(copyN("abc", 5), 6), std::string("abc\0\0\0", 6));
+    EXPECT_EQ(copyN("", 0)[6], '#') << "more than count + 1 characters are written";
+    EXPECT_STREQ(copyN(block.PlaceCharacters("abcdef", Edge::kEndsAtPage), 6), "abcdef");
+    EXPECT_STREQ(copyN("abcdef", 3), "abc");
+    EXPECT_EQ(std::string(copyN(block.PlaceText("xy", Edge::kEndsAtPage), 50), 51),
+              std::string("xy") + std::string(49, '\0'));
+}
+
+TEST_F(TextBuffer, CopiesTextsOfItsOwn) {
+    EXPECT_STREQ(copy(copy("same")), "same");
+    EXPECT_STREQ(copy(copy("01234567") + 3), "34567");
+    EXPECT_STREQ(copyN(copy("01234567") + 2, 4), "2345");
+    // Growth frees the storage that the text lies in.
+    EXPECT_STREQ(copyN(copy("01234567") + 5, 1000), "567");
+}
+
+TEST_F(TextBuffer, CountWithoutRoomForItsTerminatorGivesAnEmptyText) {
+    copy("abc");
+    EXPECT_STREQ(get(UINT_MAX), "");
+    EXPECT_STREQ(copyN("abc", UINT_MAX), "");
+    EXPECT_EQ(CapacityOf(get(0)), 10U);
+}
+
+TEST_F(TextBuffer, FailedGrowthLeavesTheBufferAsItWas) {
+    const char* const text = copy("abc");
+    mostBytes = 1000;
+    EXPECT_THROW(get(1'000'000), std::bad_alloc);
+    EXPECT_THROW(get(UINT_MAX - 1), std::bad_alloc);
+    EXPECT_THROW(copyN(text, 5000), std::bad_alloc);
+    mostBytes = SIZE_MAX;
+    EXPECT_STREQ(text, "abc");
+    EXPECT_EQ(CapacityOf(text), 10U);
+    EXPECT_EQ(get(9), text);
+}
+
+}  // namespace
+}  // namespace tarn::test
