@@ -30,13 +30,12 @@ TEST(Partselect, MatchesModel) {
     }
 }
 
-#if !defined(TARNLIB_CHECKED)
 TEST(Partselect, EmptyFieldTouchesNothing) {
     for (const int width : {0, -1, -40}) {
+        if (kIsChecked) break;
         EXPECT_EQ(ReadField(Vec{}, 5, width), Filled(width, Logic::k0));
     }
 }
-#endif
 
 }  // namespace
 }  // namespace tarn::test

@@ -40,7 +40,22 @@ static void CheckSelects(void) {
     CHECK(field.aval == 0xB && field.bval == 2);
 }
 
+static VectorWord literalWords[2];
+
+static void* AllocateLiteral(uint64_t byteCount) {
+    CHECK(byteCount == sizeof literalWords);
+    return literalWords;
+}
+
 static void CheckText(void) {
+    int width = 0;
+    VectorWord* literal = NULL;
+    unsigned char truncated = 1;
+    CHECK(tarn_CreateVector("40", "'shx5", &width, &literal, AllocateLiteral, &truncated));
+    CHECK(width == 40 && literal == literalWords && truncated == 0);
+    CHECK(strcmp(tarn_ConvertToHex(width, literal, 0), "xxxxxxxxx5") == 0);
+    CHECK(!tarn_DecimalStringToVector(width, literalWords, "4294967296"));
+    CHECK(literalWords[0].aval == 0 && literalWords[1].aval == 1 && literalWords[1].bval == 0);
     CHECK(strcmp(tarn_CopyNToGlobalBuffer("abcdef", 3), "abc") == 0);
 }
 

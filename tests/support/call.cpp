@@ -163,6 +163,18 @@ Outcome CallInEveryStorage(const CallShape& shape, const Invoke& invoke) {
     return EveryStorage(shape, invoke).Run();
 }
 
+std::string CallForText(const Vec& value,
+                        const std::function<const char*(const VectorWord* value)>& convert) {
+    std::string text;
+    const auto hashOfText = [&](VectorWord*, const VectorWord* const* operands) {
+        text = convert(operands[0]);
+        return static_cast<std::int64_t>(std::hash<std::string>{}(text));
+    };
+    const Outcome outcome =
+        CallInEveryStorage({value.width, 0, ResultPlace::kNone, {&value}}, hashOfText);
+    return outcome.broken.empty() ? text : outcome.broken + ": " + text;
+}
+
 std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
     out << outcome.result;
     if (outcome.returned != 0) out << ", returned " << outcome.returned;

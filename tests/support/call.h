@@ -48,6 +48,17 @@ using Invoke = std::function<std::int64_t(VectorWord* result, const VectorWord* 
 
 Outcome CallInEveryStorage(const CallShape& shape, const Invoke& invoke);
 
+// The text that an export gives for a value, the same from every storage; else what was broken.
+std::string CallForText(const Vec& value,
+                        const std::function<const char*(const VectorWord* value)>& convert);
+
+// Whether the build under test reports arguments that the normal build has an answer for.
+#if defined(TARNLIB_CHECKED)
+inline constexpr bool kIsChecked = true;
+#else
+inline constexpr bool kIsChecked = false;
+#endif
+
 // The argument patterns that many exports share.
 using TwoOperands = void(int, VectorWord*, int, const VectorWord*, int, const VectorWord*);
 using OneOperand = void(int, VectorWord*, int, const VectorWord*);

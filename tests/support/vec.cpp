@@ -1,6 +1,7 @@
 #include "support/vec.h"
 
 #include <algorithm>
+#include <array>
 #include <ostream>
 #include <stdexcept>
 #include <string>
@@ -64,20 +65,18 @@ Vec Prefix(const Vec& vec, int width) {
 namespace {
 
 // One digit, least significant bit first. What is no digit of the base reads as 0.
-std::vector<Logic> DigitBits(char digit, int bitCount) {
-    const auto count = static_cast<std::size_t>(bitCount);
-    if (std::string_view("xX").find(digit) != std::string_view::npos) {
-        return std::vector<Logic>(count, Logic::kX);
-    }
-    if (std::string_view("zZ?").find(digit) != std::string_view::npos) {
-        return std::vector<Logic>(count, Logic::kZ);
-    }
+std::array<Logic, 4> DigitBits(char digit, int bitsPerDigit) {
+    std::array<Logic, 4> bits{};
     const std::string_view lower = "0123456789abcdef", upper = "0123456789ABCDEF";
-    std::size_t value = std::min(lower.find(digit), upper.find(digit));
-    if (value >= (1U << count)) value = 0;
-    std::vector<Logic> bits;
-    for (std::size_t i = 0; i < count; ++i) {
-        bits.push_back((value >> i) % 2 == 1 ? Logic::k1 : Logic::k0);
+    const std::size_t value = std::min(lower.find(digit), upper.find(digit));
+    if (std::string_view("xX").find(digit) != std::string_view::npos) {
+        bits.fill(Logic::kX);
+    } else if (std::string_view("zZ?").find(digit) != std::string_view::npos) {
+        bits.fill(Logic::kZ);
+    } else if (value < (std::size_t{1} << bitsPerDigit)) {
+        for (std::size_t i = 0; i < bits.size(); ++i) {
+            bits[i] = (value >> i) % 2 == 1 ? Logic::k1 : Logic::k0;
+        }
     }
     return bits;
 }
@@ -87,17 +86,18 @@ std::vector<Logic> DigitBits(char digit, int bitCount) {
 Vec FromDigits(int width, int bitsPerDigit, std::string_view digits, std::size_t* unread) {
     Vec vec = Filled(width, Logic::k0);
     const std::size_t wanted = width < 1 ? 0 : static_cast<std::size_t>(width);
+    const auto perDigit = static_cast<std::size_t>(bitsPerDigit);
     std::size_t filled = 0;
     Logic beyond = Logic::k0;
     while (filled < wanted && !digits.empty()) {
         const char digit = digits.back();
         digits.remove_suffix(1);
         if (digit == '_') continue;
-        const std::vector<Logic> bits = DigitBits(digit, bitsPerDigit);
-        for (std::size_t i = 0; i < bits.size() && filled + i < wanted; ++i) {
+        const std::array<Logic, 4> bits = DigitBits(digit, bitsPerDigit);
+        for (std::size_t i = 0; i < perDigit && filled + i < wanted; ++i) {
             vec.bits[filled + i] = bits[i];
         }
-        filled += bits.size();
+        filled += perDigit;
         beyond = bits[0] >= Logic::kZ ? bits[0] : Logic::k0;
     }
     for (; filled < wanted; ++filled) {

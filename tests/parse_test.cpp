@@ -1,0 +1,172 @@
+// Digits and characters read into vectors.
+#include <climits>
+
+#include <tarnlib/text.h>
+
+#include "support/guarded.h"
+#include "support/model.h"
+#include "support/property.h"
+
+namespace tarn::test {
+namespace {
+
+using FromText = bool(int, VectorWord*, const char*);
+using ParseExport = Export<FromText, Vec(int, const std::string&)>;
+
+// The text lies beside a page as the result does: parsers read it in both directions.
+template <class Parse>
+Outcome ParseInto(int width, const std::string& text, bool isTerminated, Parse parse) {
+    static GuardedBlock block;
+    std::size_t calls = 0;
+    return CallInEveryStorage({width, WordCount(width), ResultPlace::kApart, {}},
+                              [&](VectorWord* result, const VectorWord* const*) {
+                                  const Edge edge = kEdges[calls++ % std::size(kEdges)];
+                                  const char* const placed =
+                                      isTerminated ? block.PlaceText(text, edge)
+                                                   : block.PlaceCharacters(text, edge);
+                                  return static_cast<std::int64_t>(parse(result, placed));
+                              });
+}
+
+Outcome Parse(FromText* function, int width, const std::string& text) {
+    return ParseInto(width, text, true, [&](VectorWord* result, const char* placed) {
+        return function(width, result, placed);
+    });
+}
+
+Outcome Assign(int width, int length, const std::string& characters) {
+    return ParseInto(width, characters, false, [&](VectorWord* result, const char* placed) {
+        tarn_AssignStringToVector(width, result, length, placed);
+        return 0;
+    });
+}
+
+template <int bitsPerDigit>
+Vec RadixValue(int width, const std::string& text) {
+    return FromDigits(width, bitsPerDigit, text);
+}
+
+bool IsOneOf(char character, std::string_view characters) {
+    return characters.find(character) != std::string_view::npos;
+}
+
+Vec DecimalValue(int width, const std::string& text) {
+    if (!text.empty() && IsOneOf(text[0], "xXzZ?")) {
+        return Clean(Filled(width, IsOneOf(text[0], "xX") ? Logic::kX : Logic::kZ));
+    }
+    std::string digits = "0";
+    for (const char c : text) {
+        if (c != '_') digits += IsOneOf(c, "0123456789") ? c : '0';
+    }
+    return Clean(FromInteger(width, mpz_class(digits, 10)));
+}
+
+Vec PackedValue(int width, const std::string& characters) {
+    Vec vec = Filled(width, Logic::k0);
+    for (std::size_t bit = 0; bit < vec.bits.size() && bit / 8 < characters.size(); ++bit) {
+        const auto c = static_cast<unsigned char>(characters[characters.size() - 1 - bit / 8]);
+        vec.bits[bit] = (c >> bit % 8) % 2 == 1 ? Logic::k1 : Logic::k0;
+    }
+    return Clean(vec);
+}
+
+// Mostly digits of the base, of any number up to a little more than the width holds.
+std::string DrawText(Gen& gen, int width, std::string_view digits, int bitsPerDigit) {
+    constexpr std::string_view kOthers = "__xXzZ?__9gG/: \xE9";
+    const int length = gen.Below(gen.OneIn(4) ? 6 : width / bitsPerDigit + 6);
+    const bool isPlain = gen.OneIn(2);
+    const auto pick = [&](std::string_view set) {
+        return set[static_cast<std::size_t>(gen.Below(static_cast<int>(set.size())))];
+    };
+    std::string text;
+    for (int i = 0; i < length; ++i) {
+        const bool isOther = isPlain ? i == 0 && gen.OneIn(4) : gen.OneIn(6);
+        text += pick(isOther ? kOthers : digits);
+    }
+    return text;
+}
+
+struct ParseRow : ParseExport {
+    std::string_view digits;
+    int bitsPerDigit;
+};
+
+class ParseDigits : public testing::TestWithParam<ParseRow> {};
+INSTANTIATE_TEST_SUITE_P(
+    Parse, ParseDigits,
+    testing::Values(
+        ParseRow{{"tarn_BinaryStringToVector", tarn_BinaryStringToVector, RadixValue<1>}, "01", 1},
+        ParseRow{
+            {"tarn_OctalStringToVector", tarn_OctalStringToVector, RadixValue<3>}, "01234567", 3},
+        ParseRow{{"tarn_HexStringToVector", tarn_HexStringToVector, RadixValue<4>},
+                 "0123456789abcdefABCDEF",
+                 4},
+        ParseRow{{"tarn_DecimalStringToVector", tarn_DecimalStringToVector, DecimalValue},
+                 "0123456789",
+                 3},
+        ParseRow{{"tarn_StringToVector", tarn_StringToVector, PackedValue}, "abc\xE9\x80", 8}),
+    kExportName);
+
+TEST_P(ParseDigits, MatchesModel) {
+    const ParseRow& row = GetParam();
+    for (Gen& gen : Seeds(kRuns)) {
+        const int width = gen.Width();
+        const std::string text = DrawText(gen, width, row.digits, row.bitsPerDigit);
+        ASSERT_EQ(Parse(row.function, width, text), row.model(width, text))
+            << gen.Reproducer(width, text);
+    }
+}
+
+TEST(Parse, AssignStringMatchesModel) {
+    for (Gen& gen : Seeds(kRuns)) {
+        const int width = gen.Width();
+        const std::string text = DrawText(gen, width, std::string_view("ab\0\xE9", 4), 8);
+        ASSERT_EQ(Assign(width, static_cast<int>(text.size()), text), PackedValue(width, text))
+            << gen.Reproducer(width, text);
+    }
+}
+
+TEST(Parse, KnownValues) {
+    struct Row {
+        FromText* function;
+        int width;
+        const char* text;
+        Vec expected;
+    };
+    const Row rows[] = {
+        {tarn_HexStringToVector, 16, "DE_aD", "16'hdead"_v},
+        {tarn_BinaryStringToVector, 8, "x1", Words(8, {{0xFF, 0xFE}})},
+        {tarn_BinaryStringToVector, 8, "1x", Words(8, {{3, 1}})},
+        {tarn_OctalStringToVector, 8, "?7", Words(8, {{7, 0xF8}})},
+        {tarn_HexStringToVector, 6, "ff", "6'h3f"_v},
+        {tarn_HexStringToVector, 8, "z1ff", "8'hff"_v},
+        {tarn_HexStringToVector, 40, "_", "40'h0"_v},
+        {tarn_HexStringToVector, 40, "x_", Words(40, {{~0U, ~0U}, {0xFF, 0xFF}})},
+        {tarn_DecimalStringToVector, 8, "300", "8'h2c"_v},
+        {tarn_DecimalStringToVector, 16, "1_000_", "16'h3e8"_v},
+        {tarn_DecimalStringToVector, 5, "x9", Words(5, {{0x1F, 0x1F}})},
+        {tarn_DecimalStringToVector, 70, "1180591620717411303424", "70'h0"_v},
+        {tarn_DecimalStringToVector, 70, "1180591620717411303423", "70'h3fffffffffffffffff"_v},
+        {tarn_DecimalStringToVector, 33, "", "33'h0"_v},
+        {tarn_StringToVector, 16, "abc", "16'h6263"_v},
+        {tarn_StringToVector, 32, "abcdef", "32'h63646566"_v},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(Parse(row.function, row.width, row.text), row.expected) << row.text;
+        if (kIsChecked) continue;
+        EXPECT_EQ(Parse(row.function, 0, row.text), Vec{});
+    }
+}
+
+TEST(Parse, AssignStringTakesLengthNotTerminator) {
+    EXPECT_EQ(Assign(64, 3, "abc"), "64'h616263"_v);
+    EXPECT_EQ(Assign(64, 10, "0123456789"), "64'h3233343536373839"_v);
+    EXPECT_EQ(Assign(40, 0, ""), "40'h0"_v);
+    EXPECT_EQ(Assign(20, 4, std::string("a\0b\0", 4)), "20'h06200"_v);
+    if (kIsChecked) return;
+    EXPECT_EQ(Assign(40, INT_MIN, ""), "40'h0"_v);
+    EXPECT_EQ(Assign(-1, 3, "abc"), (Vec{-1, {}}));
+}
+
+}  // namespace
+}  // namespace tarn::test
