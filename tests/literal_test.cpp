@@ -171,7 +171,7 @@ TEST(Literal, Strings) {
         {std::nullopt, R"("")", Unsigned("8'h0"_v)},
         {std::nullopt, R"(")", Unsigned("8'h0"_v)},
         {std::nullopt, R"("a\101")", Unsigned("16'h6141"_v)},
-        {std::nullopt, R"("\7\18\1018")", Unsigned("40'h0701384138"_v)},
+        {std::nullopt, R"("\7\18\1017")", Unsigned("40'h0701384137"_v)},
         {std::nullopt, R"("\777\0")", Unsigned("16'hff00"_v)},
         {std::nullopt, R"("\n\t\\\"\q\ ")", Unsigned("48'h0a095c227120"_v)},
         {std::nullopt, R"("a\")", Unsigned("16'h615c"_v)},

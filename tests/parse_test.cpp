@@ -70,18 +70,22 @@ Vec PackedValue(int width, const std::string& characters) {
     return Clean(vec);
 }
 
-// Mostly digits of the base, of any number up to a little more than the width holds.
+// Stretches of digits alone and stretches with other characters among them, together up to a
+// little more than the width holds.
 std::string DrawText(Gen& gen, int width, std::string_view digits, int bitsPerDigit) {
-    constexpr std::string_view kOthers = "__xXzZ?__9gG/: \xE9";
-    const int length = gen.Below(gen.OneIn(4) ? 6 : width / bitsPerDigit + 6);
-    const bool isPlain = gen.OneIn(2);
+    constexpr std::string_view kOthers = "__xXzZ?__289gG/: \xE9";
     const auto pick = [&](std::string_view set) {
         return set[static_cast<std::size_t>(gen.Below(static_cast<int>(set.size())))];
     };
     std::string text;
-    for (int i = 0; i < length; ++i) {
-        const bool isOther = isPlain ? i == 0 && gen.OneIn(4) : gen.OneIn(6);
-        text += pick(isOther ? kOthers : digits);
+    int stretch = 0;
+    bool isMixed = false;
+    for (int left = gen.Below(gen.OneIn(4) ? 6 : width / bitsPerDigit + 6); left > 0; --left) {
+        if (stretch-- == 0) {
+            stretch = gen.Below(40);
+            isMixed = gen.OneIn(2);
+        }
+        text += pick(isMixed && gen.OneIn(3) ? kOthers : digits);
     }
     return text;
 }

@@ -18,11 +18,12 @@ struct sigaction previousAction = {};
 
 void PrintSeed(int signalNumber) {
     char line[] = "\nstray access in the run of TARNLIB_SEED=00000000000000000000\n";
-    std::size_t digit = sizeof line - 3;
+    char* digit = line + sizeof line - 3;
     for (std::uint64_t seed = currentSeed; seed != 0; seed /= 10) {
-        line[digit--] = static_cast<char>('0' + seed % 10);
+        *digit-- = static_cast<char>('0' + seed % 10);
     }
-    const ssize_t written = write(STDERR_FILENO, line, sizeof line - 1);
+    const std::size_t count = currentSeed == 0 ? 0 : sizeof line - 1;
+    const ssize_t written = write(STDERR_FILENO, line, count);
     static_cast<void>(written);
     sigaction(signalNumber, &previousAction, nullptr);
 }
@@ -47,6 +48,10 @@ Seeds::Seeds(int count)
     : first_(FromEnvironment("TARNLIB_SEED", 1)),
       last_(first_ + FromEnvironment("TARNLIB_RUNS", static_cast<std::uint64_t>(count))) {
     WatchStrayAccesses();
+}
+
+Seeds::~Seeds() {
+    currentSeed = 0;
 }
 
 Gen& Seeds::Iterator::operator*() {

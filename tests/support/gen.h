@@ -72,6 +72,9 @@ class Gen {
 class Seeds {
   public:
     explicit Seeds(int count);
+    ~Seeds();
+    Seeds(const Seeds&) = delete;
+    Seeds& operator=(const Seeds&) = delete;
 
     class Iterator {
       public:
