@@ -59,7 +59,7 @@ enum class DigitKind : std::uint8_t { kKnown, kSkipped, kZ, kX };
 
 struct Digit {
     DigitKind kind;
-    std::uint8_t value;  // of a known digit, in base 16; a base with fewer bits takes the low ones
+    std::uint8_t value;  // of a known digit, in base 16
 };
 
 // Characters that are no digit in any base count as 0.

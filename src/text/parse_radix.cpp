@@ -147,7 +147,7 @@ const char* ReadBlocks(const char* begin, const char* end, std::size_t* bitsLeft
     return end;
 }
 
-// The digit's value and control bits.
+// The digit's value and control bits; a digit of a higher base counts as 0.
 template <class Layout>
 Word BitsOf(Digit digit) noexcept {
     constexpr unsigned kMask = kDigitMask<Layout>;
@@ -157,7 +157,7 @@ Word BitsOf(Digit digit) noexcept {
         case DigitKind::kZ:
             return MakeWord(0, kMask);
         default:
-            return MakeWord(digit.value & kMask, 0);
+            return digit.value <= kMask ? digit.value : Word{0};
     }
 }
 
