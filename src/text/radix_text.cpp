@@ -43,17 +43,29 @@ char PartialDigit(Operand value, std::size_t index, unsigned bits) noexcept {
     return DigitCharacter(kMask, a, b);
 }
 
-// All digits of the width and the terminator behind them.
+// All digits of the width and the terminator behind them; returns the first.
 template <class Layout>
-void WriteAllDigits(char* end, Operand value, std::size_t all) noexcept {
+char* WriteAllDigits(char* end, Operand value, std::size_t all) noexcept {
     const unsigned topBits = (static_cast<unsigned>(value.width) - 1U) % Layout::kBits + 1U;
-    std::size_t whole = all;
-    if (topBits < Layout::kBits) {
-        --whole;
-        *(end - all) = PartialDigit<Layout>(value, whole, topBits);
-    }
     *end = '\0';
-    WriteDigits(Layout{}, end, value.words, whole);
+    if (topBits == Layout::kBits) return WriteDigits(Layout{}, end, value.words, all);
+    char* const first = WriteDigits(Layout{}, end, value.words, all - 1) - 1;
+    *first = PartialDigit<Layout>(value, all - 1, topBits);
+    return first;
+}
+
+template <class Layout>
+char* FormatField(Operand value, std::size_t all, std::size_t field) {
+    char* const begin = globalBuffer.Reserve(std::max(all, field) + 1);
+    if (field >= all) {
+        std::memset(begin, '0', field - all);
+        WriteAllDigits<Layout>(begin + field, value, all);
+        return begin;
+    }
+    const std::size_t shown = std::max(field, SignificantDigits<Layout>(value));
+    if (shown == all) return WriteAllDigits<Layout>(begin + all, value, all);
+    begin[shown] = '\0';
+    return WriteDigits(Layout{}, begin + shown, value.words, shown);
 }
 
 }  // namespace
@@ -64,25 +76,9 @@ char* FormatRadix(Operand value, int minDigits) {
     constexpr std::size_t kBits = Layout::kBits;
     const std::size_t all = (static_cast<std::size_t>(value.width) + kBits - 1) / kBits;
     if (minDigits < 0) {
-        char* const begin = globalBuffer.Reserve(all + 1);
-        WriteAllDigits<Layout>(begin + all, value, all);
-        return begin;
+        return WriteAllDigits<Layout>(globalBuffer.Reserve(all + 1) + all, value, all);
     }
-    const auto field = static_cast<std::size_t>(std::max(minDigits, 1));
-    char* const begin = globalBuffer.Reserve(std::max(all, field) + 1);
-    if (field >= all) {
-        std::memset(begin, '0', field - all);
-        WriteAllDigits<Layout>(begin + field, value, all);
-        return begin;
-    }
-    const std::size_t shown = std::max(field, SignificantDigits<Layout>(value));
-    if (shown == all) {
-        WriteAllDigits<Layout>(begin + all, value, all);
-        return begin;
-    }
-    begin[shown] = '\0';
-    WriteDigits(Layout{}, begin + shown, value.words, shown);
-    return begin;
+    return FormatField<Layout>(value, all, static_cast<std::size_t>(std::max(minDigits, 1)));
 }
 
 template char* FormatRadix<Binary>(Operand, int);

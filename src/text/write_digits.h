@@ -108,42 +108,86 @@ inline std::uint64_t JoinBvals(Word low, Word high) noexcept {
     return (low >> kWordBits) | (high & kUnknownBits);
 }
 
-// The 32 digits of four words in front of end.
-inline void WriteHexBlock(char* end, const VectorWord* words) noexcept {
+inline constexpr std::size_t kHexBlockWords = 4;
+inline constexpr std::size_t kHexBlockDigits = 8 * kHexBlockWords;
+
+// The avals of two known words: what lies between them in memory is a bval of 0.
+inline std::uint64_t JoinKnown(const VectorWord* words) noexcept {
+    std::uint64_t upper;
+    std::memcpy(&upper, &words[0].bval, sizeof upper);
+    return upper | words[0].aval;
+}
+
+// The 32 digits of four known words in front of end.
+inline void WriteKnownHexBlock(char* end, const VectorWord* words) noexcept {
+    const HexDigits aval = SpreadNibbles(JoinKnown(words), JoinKnown(words + 2));
+    StoreBytes(end - 32, KnownHexCharacters(aval.upper));
+    StoreBytes(end - 16, KnownHexCharacters(aval.lower));
+}
+
+// The 32 digits of four words in front of end, known or not.
+inline void WriteMixedHexBlock(char* end, const VectorWord* words) noexcept {
     const Word w0 = LoadWord(words), w1 = LoadWord(words + 1);
     const Word w2 = LoadWord(words + 2), w3 = LoadWord(words + 3);
     const HexDigits aval = SpreadNibbles(JoinAvals(w0, w1), JoinAvals(w2, w3));
-    if (!IsUnknown(w0 | w1 | w2 | w3)) {
-        StoreBytes(end - 32, KnownHexCharacters(aval.upper));
-        StoreBytes(end - 16, KnownHexCharacters(aval.lower));
-        return;
-    }
     const HexDigits bval = SpreadNibbles(JoinBvals(w0, w1), JoinBvals(w2, w3));
     StoreBytes(end - 32, HexCharacters(aval.upper, bval.upper));
     StoreBytes(end - 16, HexCharacters(aval.lower, bval.lower));
 }
 
+// The digits of kBlocks blocks, with one unknown test for all of them. Mixed ones are written out of
+// line: the registers that they need would have to be saved for known ones too.
+template <std::size_t kBlocks>
+[[gnu::noinline]] void WriteMixedHexBlocks(char* end, const VectorWord* words) noexcept {
+    for (std::size_t i = 0; i < kBlocks; ++i) {
+        WriteMixedHexBlock(end - kHexBlockDigits * i, words + kHexBlockWords * i);
+    }
+}
+
+template <std::size_t kBlocks>
+inline void WriteHexBlocks(char* end, const VectorWord* words) noexcept {
+    Word seen = 0;
+    for (std::size_t i = 0; i < kBlocks * kHexBlockWords; ++i) {
+        seen |= LoadWord(words + i);
+    }
+    if (IsUnknown(seen)) {
+        WriteMixedHexBlocks<kBlocks>(end, words);
+        return;
+    }
+    for (std::size_t i = 0; i < kBlocks; ++i) {
+        WriteKnownHexBlock(end - kHexBlockDigits * i, words + kHexBlockWords * i);
+    }
+}
+
+// The eight digits of a word.
+inline std::uint64_t HexOfWord(Word word) noexcept {
+    const Bytes aval = SpreadNibbles(Aval(word), 0).lower;
+    const Bytes text = IsUnknown(word) ? HexCharacters(aval, SpreadNibbles(Bval(word), 0).lower)
+                                       : KnownHexCharacters(aval);
+    return reinterpret_cast<Limbs>(text)[1];
+}
+
 // The digits 0 to digitCount - 1 of a vector, the last character (digit 0) at end[-1]; each has all
-// its bits within the vector's words. One for each layout.
-inline void WriteDigits(Binary, char* end, const VectorWord* words,
-                        std::size_t digitCount) noexcept {
+// its bits within the vector's words. Returns the address of the first. One for each layout.
+inline char* WriteDigits(Binary, char* end, const VectorWord* words,
+                         std::size_t digitCount) noexcept {
     std::size_t left = digitCount;
     for (; left >= 32; left -= 32) {
         WriteBinaryWord(end, LoadWord(words++));
         end -= 32;
     }
-    if (left == 0) return;
+    if (left == 0) return end;
     Word word = LoadWord(words);
     for (; left >= 8; left -= 8) {
         StoreEight(end - 8, BinaryDigits(Aval(word), Bval(word)));
         end -= 8;
         word >>= 8;
     }
-    WriteSingleDigits<Binary>(end, word, word >> kWordBits, left);
+    return WriteSingleDigits<Binary>(end, word, word >> kWordBits, left);
 }
 
-inline void WriteDigits(Octal, char* end, const VectorWord* words,
-                        std::size_t digitCount) noexcept {
+inline char* WriteDigits(Octal, char* end, const VectorWord* words,
+                         std::size_t digitCount) noexcept {
     // Three words are 96 bits: two runs of sixteen digits, 48 bits each.
     constexpr std::size_t kRun = 16;
     std::size_t left = digitCount;
@@ -162,19 +206,29 @@ inline void WriteDigits(Octal, char* end, const VectorWord* words,
         end = WriteSingleDigits<Octal>(end, JoinAvals(low, high) >> offset,
                                        JoinBvals(low, high) >> offset, 1);
     }
+    return end;
 }
 
-inline void WriteDigits(Hexadecimal, char* end, const VectorWord* words,
-                        std::size_t digitCount) noexcept {
+inline char* WriteDigits(Hexadecimal, char* end, const VectorWord* words,
+                         std::size_t digitCount) noexcept {
     std::size_t left = digitCount;
-    for (; left >= 32; left -= 32, words += 4, end -= 32) {
-        WriteHexBlock(end, words);
+    for (; left >= 4 * kHexBlockDigits; left -= 4 * kHexBlockDigits) {
+        WriteHexBlocks<4>(end, words);
+        end -= 4 * kHexBlockDigits;
+        words += 4 * kHexBlockWords;
     }
-    for (; left > 0; left -= std::min<std::size_t>(left, 8)) {
-        const Word word = LoadWord(words++);
-        end = WriteSingleDigits<Hexadecimal>(end, Aval(word), Bval(word),
-                                             std::min<std::size_t>(left, 8));
+    for (; left >= kHexBlockDigits; left -= kHexBlockDigits) {
+        WriteHexBlocks<1>(end, words);
+        end -= kHexBlockDigits;
+        words += kHexBlockWords;
     }
+    for (; left >= 8; left -= 8) {
+        end -= 8;
+        StoreEight(end, HexOfWord(LoadWord(words++)));
+    }
+    if (left == 0) return end;
+    const Word word = LoadWord(words);
+    return WriteSingleDigits<Hexadecimal>(end, Aval(word), Bval(word), left);
 }
 
 }  // namespace tarn
