@@ -41,8 +41,12 @@ inline void MultiplyBand(Limb* result, const Limb* a, std::size_t aCount, const 
     }
 }
 
-// The band that writes the result first: the rows that make the rest a multiple of kBandRows
-// (`rows` of them, a whole band for 0).
+// The band that writes the result first has the rows that leave whole bands behind it: up to three
+// more than a band, for a band of one or two rows would take almost as long as one of four.
+constexpr std::size_t FirstRows(std::size_t rows) noexcept {
+    return rows < kBandRows ? rows : kBandRows + rows % kBandRows;
+}
+
 template <Upto kUpto = Upto::kEnd>
 inline void FirstBand(Limb* result, const Limb* a, std::size_t aCount, const Limb* b,
                       std::size_t rows) noexcept {
@@ -53,8 +57,14 @@ inline void FirstBand(Limb* result, const Limb* a, std::size_t aCount, const Lim
             return MultiplyBand<2, Into::kFresh, kUpto>(result, a, aCount, b);
         case 3:
             return MultiplyBand<3, Into::kFresh, kUpto>(result, a, aCount, b);
+        case 4:
+            return MultiplyBand<4, Into::kFresh, kUpto>(result, a, aCount, b);
+        case 5:
+            return MultiplyBand<5, Into::kFresh, kUpto>(result, a, aCount, b);
+        case 6:
+            return MultiplyBand<6, Into::kFresh, kUpto>(result, a, aCount, b);
         default:
-            return MultiplyBand<kBandRows, Into::kFresh, kUpto>(result, a, aCount, b);
+            return MultiplyBand<7, Into::kFresh, kUpto>(result, a, aCount, b);
     }
 }
 
@@ -84,9 +94,9 @@ void MultiplyBasecase(Limb* result, const Limb* a, std::size_t aCount, const Lim
                 break;
         }
     }
-    const std::size_t first = bCount % kBandRows;
+    const std::size_t first = FirstRows(bCount);
     FirstBand(result, a, aCount, b, first);
-    for (std::size_t row = first == 0 ? kBandRows : first; row < bCount; row += kBandRows) {
+    for (std::size_t row = first; row < bCount; row += kBandRows) {
         MultiplyBand<kBandRows, Into::kSum>(result + row, a, aCount, b + row);
     }
 }
@@ -112,9 +122,9 @@ void MultiplyLowBasecase(Limb* result, const Limb* a, const Limb* b, std::size_t
         default:
             break;
     }
-    const std::size_t first = count % kBandRows;
+    const std::size_t first = FirstRows(count);
     FirstBand<Upto::kACount>(result, a, count, b, first);
-    for (std::size_t row = first == 0 ? kBandRows : first; row < count; row += kBandRows) {
+    for (std::size_t row = first; row < count; row += kBandRows) {
         MultiplyBand<kBandRows, Into::kSum, Upto::kACount>(result + row, a, count - row, b + row);
     }
 }

@@ -8,13 +8,16 @@
 
 namespace tarn {
 
-// Calls step with 0, 1 .. kCount - 1 as constants: a loop that is unrolled in every build.
+template <class Step, std::size_t... kIndex>
+[[gnu::always_inline]] inline void UnrollOver(Step& step, std::index_sequence<kIndex...>) noexcept {
+    (step(std::integral_constant<std::size_t, kIndex>{}), ...);
+}
+
+// Calls step with 0, 1 .. kCount - 1 as constants: a loop that is unrolled in every build. Inlining is
+// forced, since what the step captures would otherwise pass through memory.
 template <std::size_t kCount, class Step>
-inline void Unroll(Step&& step) noexcept {
-    [&]<std::size_t... kIndex>(std::index_sequence<kIndex...>) {
-        (step(std::integral_constant<std::size_t, kIndex>{}), ...);
-    }
-    (std::make_index_sequence<kCount>{});
+[[gnu::always_inline]] inline void Unroll(Step&& step) noexcept {
+    UnrollOver(step, std::make_index_sequence<kCount>{});
 }
 
 }  // namespace tarn
