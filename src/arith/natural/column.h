@@ -18,11 +18,8 @@ class ColumnSum {
         high_ += low_ < product ? 1U : 0U;
     }
     void AddLimb(Limb a) noexcept {
-        const Limb bottom = LowLimb(low_) + a;
-        const Limb carry = bottom < a ? 1U : 0U;
-        const Limb top = HighLimb(low_) + carry;
-        high_ += top < carry ? 1U : 0U;
-        low_ = MakeDoubleLimb(top, bottom);
+        low_ += a;
+        high_ += low_ < a ? 1U : 0U;
     }
     void Double() noexcept {
         high_ = (high_ << 1) | (HighLimb(low_) >> (kLimbBits - 1));
