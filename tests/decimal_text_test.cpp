@@ -1,0 +1,163 @@
+// Decimal digits, machine integers and reals.
+#include <cstring>
+
+#include <tarnlib/text.h>
+
+#include "support/model.h"
+#include "support/property.h"
+
+namespace tarn::test {
+namespace {
+
+using ToDecimal = char*(int, const VectorWord*, int, int);
+using DecimalExport = Export<ToDecimal, std::string(const Vec&)>;
+
+// The one character of a value with unknown bits: whole words count, but only bits within the width
+// are known.
+std::string UnknownText(const Vec& vec) {
+    const auto has = [](auto begin, auto end, auto test) { return std::any_of(begin, end, test); };
+    const auto begin = vec.bits.begin(), end = vec.bits.end();
+    const bool hasX = has(begin, end, [](Logic bit) { return bit == Logic::kX; });
+    const bool hasZ = has(begin, end, [](Logic bit) { return bit == Logic::kZ; });
+    const bool hasKnown = has(begin, begin + vec.width,
+                              [](Logic bit) { return bit == Logic::k0 || bit == Logic::k1; });
+    if (hasX) return hasZ || hasKnown ? "X" : "x";
+    return hasKnown ? "Z" : "z";
+}
+
+std::string UnsignedText(const Vec& vec) {
+    return HasUnknown(vec) ? UnknownText(vec) : ToInteger(vec).get_str();
+}
+
+// Negative where the top bit or a bit stored above it is set; the magnitude has the width's bits.
+std::string SignedText(const Vec& vec) {
+    if (HasUnknown(vec)) return UnknownText(vec);
+    const mpz_class value = ToInteger(vec);
+    if (value >> static_cast<unsigned>(vec.width - 1) == 0) return value.get_str();
+    mpz_class magnitude = -value;
+    mpz_fdiv_r_2exp(magnitude.get_mpz_t(), magnitude.get_mpz_t(), static_cast<unsigned>(vec.width));
+    return std::string(1, '-').append(magnitude.get_str());  // also in front of a 0
+}
+
+// The text in its field; `most` is the width of the field that minDigits < 0 stands for.
+std::string InField(const std::string& text, int minDigits, std::size_t most, bool zeroPad) {
+    const std::size_t field = minDigits < 0 ? most : static_cast<std::size_t>(minDigits);
+    if (text.size() >= field) return text;
+    const std::size_t signs = zeroPad && text[0] == '-' ? 1 : 0;
+    std::string padded(text, 0, signs);
+    padded.append(field - text.size(), zeroPad ? '0' : ' ');
+    return padded.append(text, signs);
+}
+
+class DecimalText : public testing::TestWithParam<DecimalExport> {};
+INSTANTIATE_TEST_SUITE_P(Decimal, DecimalText,
+                         testing::Values(DecimalExport{"tarn_UnsignedConvertToDec",
+                                                       tarn_UnsignedConvertToDec, UnsignedText},
+                                         DecimalExport{"tarn_SignedConvertToDec",
+                                                       tarn_SignedConvertToDec, SignedText}),
+                         kExportName);
+
+TEST_P(DecimalText, MatchesModel) {
+    const auto& [name, function, model] = GetParam();
+    const std::size_t sign = function == tarn_SignedConvertToDec ? 1 : 0;
+    for (Gen& gen : Seeds(kRuns)) {
+        const Vec value = gen.OneIn(8) ? gen.FourState(gen.Width()) : gen.Vector(gen.Width());
+        // The largest number of the width has as many digits as the width can need.
+        mpz_class largest;
+        mpz_setbit(largest.get_mpz_t(), static_cast<std::size_t>(value.width));
+        const std::size_t most = mpz_class(largest - 1).get_str().size() + sign;
+        const int minDigits = gen.OneIn(2) ? -1 : gen.Below(2 * value.width);
+        const bool zeroPad = gen.OneIn(2);
+        const std::string text = CallForText(value, [&](const VectorWord* words) {
+            return function(value.width, words, minDigits, zeroPad ? 1 : 0);
+        });
+        ASSERT_EQ(text, InField(model(value), minDigits, most, zeroPad))
+            << gen.Reproducer(value, minDigits, zeroPad);
+    }
+}
+
+TEST(Decimal, ValueInTheRegister) {
+    const std::vector<VectorWord> words = ToWords("70'h3fffffffffffffffff"_v);
+    std::copy(words.begin(), words.end(), tarn_VectorRegister);
+    EXPECT_STREQ(tarn_UnsignedConvertToDec(70, tarn_VectorRegister, 0, 0),
+                 "1180591620717411303423");
+    // Three plain words were divided down to 0 where they stood; the rest is the caller's.
+    EXPECT_EQ(tarn_VectorRegister[0].aval | tarn_VectorRegister[0].bval, 0U);
+    EXPECT_EQ(tarn_VectorRegister[1].aval, 0U);
+    EXPECT_EQ(tarn_VectorRegister[2].aval, 0x3FU);
+}
+
+TEST(Decimal, LogicCodes) {
+    const char* const expected[] = {"0", "1", "z", "x", "x", "x"};
+    for (int code = 0; code <= 5; ++code) {
+        EXPECT_STREQ(tarn_UnsignedConvertToDec0(code), expected[code]);
+        EXPECT_STREQ(tarn_SignedConvertToDec0(code), code == 1 ? "-1" : expected[code]);
+    }
+}
+
+// A digit that a width can need at either end of its range, and the most negative number.
+TEST(Decimal, KnownTexts) {
+    struct Row {
+        ToDecimal* function;
+        Vec value;
+        int minDigits;
+        int zeroPad;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {tarn_UnsignedConvertToDec, "8'h5"_v, -1, 0, "  5"},
+        {tarn_UnsignedConvertToDec, "8'h5"_v, -1, 1, "005"},
+        {tarn_SignedConvertToDec, "8'shfb"_v, -1, 1, "-005"},
+        {tarn_SignedConvertToDec, "8'shfb"_v, 0, 1, "-5"},
+        {tarn_SignedConvertToDec, "8'sh80"_v, -1, 0, "-128"},
+        {tarn_SignedConvertToDec, "1'sb1"_v, -1, 0, "-1"},
+        {tarn_SignedConvertToDec, "1'sb0"_v, -1, 0, " 0"},
+        {tarn_UnsignedConvertToDec, Words(8, {{0xFFFFFFFF, 0}}), -1, 0, "4294967295"},
+        {tarn_UnsignedConvertToDec, "8'bx"_v, -1, 0, "  x"},
+        {tarn_UnsignedConvertToDec, "8'bz0"_v, 0, 0, "Z"},
+        {tarn_SignedConvertToDec, "8'bxz"_v, 2, 1, "0X"},
+    };
+    for (const Row& row : rows) {
+        const std::string text = CallForText(row.value, [&](const VectorWord* words) {
+            return row.function(row.value.width, words, row.minDigits, row.zeroPad);
+        });
+        EXPECT_EQ(text, row.expected) << row.value;
+    }
+}
+
+TEST(MachineInteger, MatchesModel) {
+    for (Gen& gen : Seeds(kRuns)) {
+        const Vec value = gen.OneIn(2) ? gen.FourState(gen.Width()) : gen.Vector(gen.Width());
+        std::uint32_t low = 0;
+        bool isHigh = false;
+        for (std::size_t i = 0; i < value.bits.size(); ++i) {
+            if (value.bits[i] != Logic::k1) continue;
+            if (i < 32) low |= 1U << i;
+            isHigh = isHigh || (i >= 64 && i < static_cast<std::size_t>(value.width));
+        }
+        const std::vector<VectorWord> words = ToWords(value);
+        int overflow = -1;
+        EXPECT_EQ(tarn_UnsignedConvertToSizeT(words.data(), value.width, &overflow), low);
+        EXPECT_EQ(overflow, isHigh ? 1 : 0) << gen.Reproducer(value);
+        std::int64_t number = low;
+        if (value.width < 32) {
+            const std::int64_t range = std::int64_t{1} << value.width;
+            number %= range;
+            number = number >= range / 2 ? number - range : number;
+        }
+        EXPECT_EQ(tarn_SignedConvertToSizeT(words.data(), value.width, &overflow),
+                  static_cast<std::int32_t>(number))
+            << gen.Reproducer(value);
+        EXPECT_EQ(overflow, isHigh ? 1 : 0);
+    }
+}
+
+TEST(Real, IsFormattedAtAnyLength) {
+    EXPECT_STREQ(tarn_ConvertToStringR("%g", -1234.5678), "-1234.57");
+    EXPECT_STREQ(tarn_ConvertToStringR("[%12.4e]", 0.5), "[  5.0000e-01]");
+    // Longer than the room that is usual.
+    EXPECT_EQ(tarn_ConvertToStringR("%5000.1f", 1.5), std::string(4997, ' ') + "1.5");
+}
+
+}  // namespace
+}  // namespace tarn::test
