@@ -1,6 +1,7 @@
 // Measures each product algorithm on both sides of its threshold (src/arith/natural/thresholds.h)
 // against the next one and against GMP. A row is one algorithm at one count; the counter `gmp` is
-// its time over that of mpn_mul_n or mpn_sqr on the same values, measured in the same row.
+// its time over that of mpn_mul or mpn_sqr on the same values, measured in the same row. Rows called
+// long multiply by an operand four times as long.
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
@@ -17,9 +18,14 @@
 namespace tarn {
 namespace {
 
+// a is `longer` times as long as b.
 struct Operands {
-    explicit Operands(std::size_t limbs)
-        : count(limbs), a(limbs), b(limbs), result(2 * limbs), gmpResult(2 * limbs) {
+    Operands(std::size_t limbs, std::size_t longer)
+        : count(limbs),
+          a(longer * limbs),
+          b(limbs),
+          result(a.size() + limbs),
+          gmpResult(a.size() + limbs) {
         std::mt19937_64 random(limbs);
         std::generate(a.begin(), a.end(), random);
         std::generate(b.begin(), b.end(), random);
@@ -36,7 +42,10 @@ struct Form {
     bool isSquare;
     Call call;
     Scratch scratch;
+    std::size_t longer = 1;
 };
+
+constexpr std::size_t kLonger = 4;
 
 std::size_t NoScratch(std::size_t) {
     return 0;
@@ -46,11 +55,12 @@ std::size_t TransformScratch(std::size_t count) {
 }
 
 void Gmp(Operands& o, bool isSquare) {
-    const auto count = static_cast<mp_size_t>(o.count);
+    const auto aCount = static_cast<mp_size_t>(o.a.size());
+    const auto bCount = static_cast<mp_size_t>(o.b.size());
     if (isSquare) {
-        mpn_sqr(o.gmpResult.data(), o.a.data(), count);
+        mpn_sqr(o.gmpResult.data(), o.a.data(), aCount);
     } else {
-        mpn_mul_n(o.gmpResult.data(), o.a.data(), o.b.data(), count);
+        mpn_mul(o.gmpResult.data(), o.a.data(), aCount, o.b.data(), bCount);
     }
 }
 
@@ -97,6 +107,18 @@ const Form kToom3 = {"toom3", false, Product<MultiplyToom3>, MultiplyToom3Scratc
 const Form kSquareToom3 = {"toom3", true, SquareOf<MultiplyToom3>, MultiplyToom3Scratch};
 const Form kMulders = {"low_mulders", false, Product<MultiplyLowMulders>,
                        MultiplyLowMuldersScratch};
+const Form kPieces = {
+    "pieces", false,
+    [](Operands& o, Limb* scratch) {
+        MultiplyPieces(o.result.data(), o.a.data(), o.a.size(), o.b.data(), o.b.size(), scratch);
+    },
+    [](std::size_t count) { return MultiplyPiecesScratch(kLonger * count, count); }, kLonger};
+const Form kWideTransform = {
+    "ntt", false,
+    [](Operands& o, Limb* scratch) {
+        MultiplyNtt(o.result.data(), o.a.data(), o.a.size(), o.b.data(), o.b.size(), scratch);
+    },
+    [](std::size_t count) { return MultiplyNttScratch(kLonger * count, count); }, kLonger};
 const Form kAny = {"any", false, Product<MultiplyBalanced>, MultiplyBalancedScratch};
 const Form kAnySquare = {"any", true, SquareOf<MultiplyBalanced>, MultiplyBalancedScratch};
 const Form kAnyLow = {"low_any", false, Product<MultiplyLow>, MultiplyLowScratch};
@@ -112,7 +134,7 @@ double Seconds(std::size_t calls, Step&& step) {
 }
 
 void Measure(benchmark::State& state, const Form& form, std::size_t count) {
-    Operands operands(count);
+    Operands operands(count, form.longer);
     std::vector<Limb> scratch(form.scratch(count) + 1);
     const std::size_t calls = std::max<std::size_t>(1, 200000 / (count * 10));
     double ours = 1e9;
@@ -130,8 +152,8 @@ void Measure(benchmark::State& state, const Form& form, std::size_t count) {
 
 void Register(const Form& form, const std::vector<std::size_t>& counts) {
     for (const std::size_t count : counts) {
-        const std::string name = std::string(form.isSquare ? "square/" : "product/") +
-                                 std::to_string(count) + "/" + form.name;
+        const char* const kind = form.isSquare ? "square/" : form.longer > 1 ? "long/" : "product/";
+        const std::string name = kind + std::to_string(count) + "/" + form.name;
         benchmark::RegisterBenchmark(
             name.c_str(), [&form, count](benchmark::State& state) { Measure(state, form, count); })
             ->UseManualTime()
@@ -152,6 +174,7 @@ void RegisterAll() {
     RegisterPair(kBasecase, kKaratsuba, kKaratsubaThreshold);
     RegisterPair(kKaratsuba, kToom3, kToom3Threshold);
     RegisterPair(kToom3, kTransform, kNttThreshold);
+    RegisterPair(kPieces, kWideTransform, kNttUnbalancedThreshold);
     RegisterPair(kSquareBasecase, kSquareKaratsuba, kSquareKaratsubaThreshold);
     RegisterPair(kSquareKaratsuba, kSquareToom3, kSquareToom3Threshold);
     RegisterPair(kSquareToom3, kSquareTransform, kSquareNttThreshold);

@@ -95,7 +95,7 @@ void Multiply(Limb* result, const Limb* a, std::size_t aCount, const Limb* b, st
     if (aCount == bCount) {
         return MultiplyBalanced(result, a, a == b ? nullptr : b, aCount, scratch);
     }
-    if (bCount >= kNttThreshold) return MultiplyNtt(result, a, aCount, b, bCount, scratch);
+    if (bCount >= kNttUnbalancedThreshold) return MultiplyNtt(result, a, aCount, b, bCount, scratch);
     MultiplyPieces(result, a, aCount, b, bCount, scratch);
 }
 
@@ -103,7 +103,7 @@ std::size_t MultiplyScratch(std::size_t aCount, std::size_t bCount) noexcept {
     if (aCount < bCount) std::swap(aCount, bCount);
     if (bCount < kKaratsubaThreshold) return 0;
     if (aCount == bCount) return MultiplyBalancedScratch(aCount);
-    if (bCount >= kNttThreshold) return MultiplyNttScratch(aCount, bCount);
+    if (bCount >= kNttUnbalancedThreshold) return MultiplyNttScratch(aCount, bCount);
     return MultiplyPiecesScratch(aCount, bCount);
 }
 

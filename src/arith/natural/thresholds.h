@@ -7,20 +7,23 @@
 
 namespace tarn {
 
-// bench/tune_multiply: a balanced product. The shorter operand's count decides for others.
-inline constexpr std::size_t kKaratsubaThreshold = 18;
-inline constexpr std::size_t kToom3Threshold = 90;
-inline constexpr std::size_t kNttThreshold = 1600;
+// bench/tune_multiply: a balanced product.
+inline constexpr std::size_t kKaratsubaThreshold = 15;
+inline constexpr std::size_t kToom3Threshold = 100;
+inline constexpr std::size_t kNttThreshold = 1400;
+
+// bench/tune_multiply: the shorter operand of an unbalanced product.
+inline constexpr std::size_t kNttUnbalancedThreshold = 800;
 
 // bench/tune_multiply: a square.
 inline constexpr std::size_t kSquareKaratsubaThreshold = 28;
-inline constexpr std::size_t kSquareToom3Threshold = 105;
+inline constexpr std::size_t kSquareToom3Threshold = 90;
 inline constexpr std::size_t kSquareNttThreshold = 1700;
 
 // bench/tune_multiply: the low half of a product; from the second figure on the full product is no
 // slower.
 inline constexpr std::size_t kMuldersThreshold = 60;
-inline constexpr std::size_t kLowByFullThreshold = 2000;
+inline constexpr std::size_t kLowByFullThreshold = 1900;
 
 // Chunks of 19 digits up to which decimal digits are gathered chunk by chunk; above, by halves.
 // Measured by bench/tune_divide.cpp.
