@@ -318,8 +318,11 @@ TEST(Tarncalc, SurvivesVeryLongLines) {
     Check({{"-d"}, '0' + Repeat("+(1)", 2000), "32'sd2000\n", "", 0});
     Check({{"-d"}, '1' + Repeat(" + 1", 100'000), "32'sd100001\n", "", 0});
     Check({{}, "400000'h" + Repeat("f", 100'000), "400000'h" + Repeat("f", 100'000) + '\n', "", 0});
-    Check(
-        {{"-d"}, "400000'd" + Repeat("9", 10'000), "400000'd" + Repeat("9", 10'000) + '\n', "", 0});
+    Check({{"-d"},
+           "400000'd" + Repeat("9", 100'000),
+           "400000'd" + Repeat("9", 100'000) + '\n',
+           "",
+           0});
     // Storage counts only as long as it is in use.
     const std::string zeros = "10000000'h" + Repeat("0", 2'500'000 - 2);
     Check({{}, "10000000'h0" + Repeat("+1", 250), zeros + "fa\n", "", 0});

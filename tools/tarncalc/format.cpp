@@ -1,75 +1,29 @@
 #include "format.h"
 
-#include <algorithm>
-#include <cstdint>
 #include <string_view>
-#include <vector>
 
 namespace tarncalc {
 
 namespace {
 
-/** Divides a number of 32-bit words, least significant first, in place; returns the remainder. */
-std::uint32_t DivideInPlace(std::vector<std::uint32_t>& number, std::uint32_t divisor) {
-    std::uint64_t remainder = 0;
-    for (auto word = number.rbegin(); word != number.rend(); ++word) {
-        const std::uint64_t dividend = remainder << 32U | *word;
-        *word = static_cast<std::uint32_t>(dividend / divisor);
-        remainder = dividend % divisor;
-    }
-    while (!number.empty() && number.back() == 0) {
-        number.pop_back();
-    }
-    return static_cast<std::uint32_t>(remainder);
-}
-
-/** The decimal digits of a known value, with a minus in front of one below zero; of another one a
- *  single x, z, X or Z. */
-std::string DecimalDigits(const Value& value) {
-    const auto [width, isSigned] = value.GetType();
-    const std::string bits = tarn_ConvertToBin(width, value.Words(), -1);
-    if (bits.find('x') != std::string::npos) {
-        return bits.find_first_not_of('x') == std::string::npos ? "x" : "X";
-    }
-    if (bits.find('z') != std::string::npos) {
-        return bits.find_first_not_of('z') == std::string::npos ? "z" : "Z";
-    }
-    std::vector<std::uint32_t> number((bits.size() + 31) / 32);
-    const bool isNegative = isSigned && bits.front() == '1';
-    std::uint64_t carry = 1;
-    for (std::size_t index = 0; index < number.size(); ++index) {
-        const std::uint32_t word = value.Words()[index].aval;
-        carry += ~word;
-        number[index] = isNegative ? static_cast<std::uint32_t>(carry) : word;
-        carry >>= 32U;
-    }
-    constexpr std::uint32_t kChunk = 1'000'000'000;
-    std::string reversed;
-    do {
-        std::uint32_t chunk = DivideInPlace(number, kChunk);
-        for (int digit = 0; digit < 9; ++digit, chunk /= 10) {
-            reversed += static_cast<char>('0' + chunk % 10);
-        }
-    } while (!number.empty());
-    reversed.erase(std::max<std::size_t>(reversed.find_last_not_of('0') + 1, 1));
-    if (isNegative) reversed += '-';
-    return {reversed.rbegin(), reversed.rend()};
-}
-
-/** All digits of the value, after the display rules: 'X' and 'Z' for a digit (in decimal: a value)
- *  only some of whose bits are unknown. */
+/** The digits of the value: all of them, but in decimal as few as it needs, with a minus in front
+ *  of one below zero. 'X' and 'Z' stand for a digit (in decimal: a value) only some of whose bits
+ *  are unknown. */
 std::string DigitsOf(const Value& value, const Radix& radix) {
-    const int width = value.GetType().width;
+    const auto [width, isSigned] = value.GetType();
+    const VectorWord* const words = value.Words();
     constexpr int kAllDigits = -1;
+    constexpr int kNeededDigits = 0;
     switch (radix.letter) {
         case kBinary.letter:
-            return tarn_ConvertToBin(width, value.Words(), kAllDigits);
+            return tarn_ConvertToBin(width, words, kAllDigits);
         case kOctal.letter:
-            return tarn_ConvertToOct(width, value.Words(), kAllDigits);
+            return tarn_ConvertToOct(width, words, kAllDigits);
         case kHexadecimal.letter:
-            return tarn_ConvertToHex(width, value.Words(), kAllDigits);
+            return tarn_ConvertToHex(width, words, kAllDigits);
         default:
-            return DecimalDigits(value);
+            return isSigned ? tarn_SignedConvertToDec(width, words, kNeededDigits, 0)
+                            : tarn_UnsignedConvertToDec(width, words, kNeededDigits, 0);
     }
 }
 
