@@ -113,6 +113,24 @@ const Sum kSums[] = {
      "5'sh08\n5'h18\n40'h0000000003\n"},
     {{"-d", "3 - 7", "3 - 7 - 1", "3 - (7 - 1)", "1--1", "1 - - + 1"},
      "-32'sd4\n-32'sd5\n-32'sd3\n32'sd2\n32'sd2\n"},
+    // Precedence, and grouping from the left.
+    {{"-d", "2 + 3*4", "(2 + 3)*4", "7 - 6/2*3%5", "2*3**2", "-2**2", "2**3**2", "2**-1+3"},
+     "32'sd14\n32'sd20\n32'sd3\n32'sd18\n32'sd4\n32'sd64\n32'sd3\n"},
+    // Quotients are cut toward zero, remainders have the dividend's sign; both feel the width and
+    // the sign of their context.
+    {{"-d", "-7/2", "7/-2", "-7 % 2", "7 % -2", "-8'sd128 / -8'sd1", "-7 / 32'd2"},
+     "-32'sd3\n-32'sd3\n-32'sd1\n32'sd1\n-8'sd128\n32'd2147483644\n"},
+    {{"8'hff * 8'hff", "8'hff * 8'hff + 16'h0", "(8'hff + 8'h1) / 8'h2", "(8'hff + 8'h1) / 9'h2",
+      "4'sb1000 * 8'sd2", "4'sb1000 * 8'd2"},
+     "8'h01\n16'hfe01\n8'h00\n9'h080\n8'shf0\n8'h10\n"},
+    // The exponent's width and sign are its own; the base has those of the context.
+    {{"-d", "2**200", "200'd2**200'd199", "8'd2**-1", "2**2'sd3", "2**2'd3", "8'shff**-1",
+      "8'shff**-1 + 8'd0", "4'd2**9'd4", "4'd2**9'd4 + 9'd0", "3**(1'd1 + 1'd1)",
+      "3**(1'd1 + 2'd1)"},
+     "32'sd0\n200'd803469022129495137770981046170581301261101496891396417650688\n8'd0\n32'sd0\n"
+     "32'sd8\n-8'sd1\n8'd0\n4'd0\n9'd16\n32'sd1\n32'sd9\n"},
+    {{"-d", "0**0", "0**-1", "8'd5/8'd0", "5%0", "1**'x", "64'd3**-1", "1**-5", "-1**-2"},
+     "32'sd1\n32'sdx\n8'dx\n32'sdx\n32'sdx\n64'd0\n32'sd1\n32'sd1\n"},
     // Unknowns: kept by a literal, all x after any operator.
     {{"8'b1x", "+8'b1x", "-4'sbz", "40'h0 + 'x", "4'bz - 4'bz"},
      "8'b0000001x\n8'hxx\n4'shx\n40'hxxxxxxxxxx\n4'hx\n"},
@@ -190,7 +208,8 @@ const Wrong kWrong[] = {
     {"(1", "expected ')'", 2},
     {"(1 2", "expected an operator or ')'", 3},
     {"1)", "unmatched ')'", 1},
-    {"1 * 2", "unexpected character '*'", 2},
+    {"2 * * 3", "expected an operand", 4},
+    {"1 @ 2", "unexpected character '@'", 2},
     {"1 + x", "unexpected character 'x'", 4},
     {"\x01", "unexpected control character 0x01", 0},
     {"0'h1", "the size of a literal can't be 0", 0},
@@ -318,14 +337,23 @@ TEST(Tarncalc, SurvivesVeryLongLines) {
     Check({{"-d"}, '0' + Repeat("+(1)", 2000), "32'sd2000\n", "", 0});
     Check({{"-d"}, '1' + Repeat(" + 1", 100'000), "32'sd100001\n", "", 0});
     Check({{}, "400000'h" + Repeat("f", 100'000), "400000'h" + Repeat("f", 100'000) + '\n', "", 0});
-    Check({{"-d"},
-           "400000'd" + Repeat("9", 100'000),
-           "400000'd" + Repeat("9", 100'000) + '\n',
-           "",
-           0});
+    const std::string nines = "400000'd" + Repeat("9", 100'000);
+    Check({{"-d"}, nines, nines + '\n', "", 0});
     // Storage counts only as long as it is in use.
     const std::string zeros = "10000000'h" + Repeat("0", 2'500'000 - 2);
     Check({{}, "10000000'h0" + Repeat("+1", 250), zeros + "fa\n", "", 0});
+
+    // A wide power is refused only where it is known to take long.
+    Check({{}, "10000000'd2 ** -10000000'd1 + 10000000'h0", zeros + "00\n", "", 0});
+    Check({{}, "10000000'd3 ** -10000000'sd1 + 10000000'h0", zeros + "00\n", "", 0});
+    Check({{}, "(10000000'd3 ** 10000000'd5) * 1", zeros + "f3\n", "", 0});
+    Check({{"-d"}, "10000000'd3 ** 10000000'bx", "10000000'dx\n", "", 0});
+    const std::string slow = "tarncalc: line 1: this power would take too long to calculate\n";
+    Check({{},
+           "10000000'd3 ** -10000000'd1",
+           "",
+           slow + "  10000000'd3 ** -10000000'd1\n" + Repeat(" ", 14) + "^\n",
+           2});
 
     Row row = RunTarncalc({}, '1' + Repeat("+1", 1'000'000));
     EXPECT_EQ(row.error.substr(0, row.error.find('\n')),
@@ -351,7 +379,7 @@ TEST(Tarncalc, HelpTellsTheTruth) {
         Check({arguments, "", expected + '\n', "", 0});
         ++calls;
     }
-    EXPECT_EQ(calls, 7);
+    EXPECT_EQ(calls, 11);
 }
 
 TEST(Tarncalc, ReportsOutputThatCannotBeWritten) {

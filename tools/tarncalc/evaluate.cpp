@@ -14,6 +14,14 @@ namespace {
 // text can ask for more than any machine has.
 constexpr std::uint64_t kMaxLiveBits = 2'000'000'000;
 
+// The bits of a power times those of its exponent, each of which asks for one or two products. At
+// this bound they take about half a minute, be it the power or the exponent that is wide.
+constexpr std::uint64_t kMaxPowerWork = 10'000'000'000;
+
+// Nothing is wider than the widest literal, so no operator meets an operand beyond its limit;
+// division has the lowest.
+static_assert(TARN_MAX_LITERAL_WIDTH <= 10'000'000);
+
 using UnaryFunction = decltype(&tarn_SignedMinus);
 using BinaryFunction = decltype(&tarn_SignedAdd);
 
@@ -27,14 +35,38 @@ UnaryFunction FunctionOf(UnaryOperator op, bool isSigned) {
     return nullptr;
 }
 
-BinaryFunction FunctionOf(BinaryOperator op, bool isSigned) {
+/** The signs are those of the operands; they differ at most where the right one determines its own
+ *  type. */
+BinaryFunction FunctionOf(BinaryOperator op, bool isSigned, bool isRightSigned) {
     switch (op) {
+        case BinaryOperator::kPower:
+            if (isRightSigned) return isSigned ? tarn_SignedSPower : tarn_UnsignedSPower;
+            return isSigned ? tarn_SignedUPower : tarn_UnsignedUPower;
+        case BinaryOperator::kMultiply:
+            return isSigned ? tarn_SignedMul : tarn_UnsignedMul;
+        case BinaryOperator::kDivide:
+            return isSigned ? tarn_SignedDiv : tarn_UnsignedDiv;
+        case BinaryOperator::kModulo:
+            return isSigned ? tarn_SignedMod : tarn_UnsignedMod;
         case BinaryOperator::kAdd:
             return isSigned ? tarn_SignedAdd : tarn_UnsignedAdd;
         case BinaryOperator::kSubtract:
             return isSigned ? tarn_SignedSub : tarn_UnsignedSub;
     }
     return nullptr;
+}
+
+/** Whether base ** exponent, as wide as the base, is calculated in bearable time. Even bases,
+ *  unknown exponents and those below zero make no work: their powers are found at once. */
+bool IsPowerFeasible(const Value& base, const Value& exponent) {
+    const std::size_t maxExponentBits = kMaxPowerWork / std::size_t(base.GetType().width);
+    const auto exponentWidth = std::size_t(exponent.GetType().width);
+    const bool isOdd = (base.Words()->aval & 1U) != 0;
+    if (exponentWidth <= maxExponentBits || !isOdd) return true;
+    const std::string_view bits = tarn_ConvertToBin(exponent.GetType().width, exponent.Words(), 0);
+    const bool isNegative = exponent.GetType().isSigned && bits.size() == exponentWidth;
+    const bool isKnown = bits.find_first_not_of("01") == std::string_view::npos;
+    return bits.size() <= maxExponentBits || isNegative || !isKnown;
 }
 
 /** The rules of IEEE 1364-2005, 5.4 and 5.5: types are determined from the operands up, then the
@@ -54,25 +86,26 @@ class Evaluator {
   private:
     void DetermineTypes() {
         for (NodeIndex index = 0; index < tree_.size(); ++index) {
-            types_[index] =
-                std::visit([&](const auto& node) { return TypeOf(node); }, tree_[index].content);
-            if (std::holds_alternative<Literal>(tree_[index].content)) {
-                ClaimBits(types_[index].width, tree_[index].position);
-            }
+            const auto determine = [this](const auto& content) { return DetermineType(content); };
+            types_[index] = std::visit(determine, tree_[index].content);
         }
     }
 
-    Type TypeOf(const Literal& literal) {
+    /** A literal's type is known when its value is made. */
+    Type DetermineType(const Literal& literal) {
         bool isCut = false;
         literals_.emplace_back(literal, isCut);
         if (isCut) cutLiterals_.push_back(literal.spelling);
-        return literals_.back().GetType();
+        const Type& type = literals_.back().GetType();
+        ClaimBits(type.width, literal.position);
+        return type;
     }
 
-    Type TypeOf(const UnaryNode& node) const { return types_[node.operand]; }
+    Type DetermineType(const UnaryNode& node) const { return types_[node.operand]; }
 
-    Type TypeOf(const BinaryNode& node) const {
+    Type DetermineType(const BinaryNode& node) const {
         const Type& left = types_[node.left];
+        if (IsRightSelfDetermined(node.op)) return left;
         const Type& right = types_[node.right];
         return {std::max(left.width, right.width), left.isSigned && right.isSigned};
     }
@@ -84,44 +117,48 @@ class Evaluator {
                 types_[unary->operand] = type;
             } else if (const auto* const binary = std::get_if<BinaryNode>(&tree_[index].content)) {
                 types_[binary->left] = type;
-                types_[binary->right] = type;
+                if (!IsRightSelfDetermined(binary->op)) types_[binary->right] = type;
             }
         }
     }
 
     /** Postorder is the order of a stack machine: an operator finds its operands on top. */
     void Calculate() {
-        auto nextLiteral = literals_.begin();
+        nextLiteral_ = literals_.begin();
         for (NodeIndex index = 0; index < tree_.size(); ++index) {
-            const Type type = types_[index];
-            if (const auto* const unary = std::get_if<UnaryNode>(&tree_[index].content)) {
-                Apply(*unary, type);
-            } else if (const auto* const binary = std::get_if<BinaryNode>(&tree_[index].content)) {
-                Apply(*binary, type);
-            } else {
-                Value value = std::move(*nextLiteral++);
-                ClaimBits(type.width - value.GetType().width, tree_[index].position);
-                value.Convert(type);
-                stack_.push_back(std::move(value));
-            }
+            const auto execute = [&](const auto& content) {
+                Execute(content, types_[index], tree_[index].position);
+            };
+            std::visit(execute, tree_[index].content);
         }
     }
 
-    void Apply(const UnaryNode& node, Type type) {
+    void Execute(const Literal& /*literal*/, Type type, std::size_t position) {
+        Value value = std::move(*nextLiteral_++);
+        ClaimBits(type.width - value.GetType().width, position);
+        value.Convert(type);
+        stack_.push_back(std::move(value));
+    }
+
+    void Execute(const UnaryNode& node, Type type, std::size_t /*position*/) {
         Value& operand = stack_.back();
         FunctionOf(node.op, type.isSigned)(type.width, operand.Words(), type.width,
                                            operand.Words());
         operand.RestoreTopWord();
     }
 
-    void Apply(const BinaryNode& node, Type type) {
+    void Execute(const BinaryNode& node, Type type, std::size_t position) {
         const Value right = std::move(stack_.back());
         stack_.pop_back();
         Value& left = stack_.back();
-        FunctionOf(node.op, type.isSigned)(type.width, left.Words(), type.width, left.Words(),
-                                           type.width, right.Words());
+        if (node.op == BinaryOperator::kPower && !IsPowerFeasible(left, right)) {
+            throw ExpressionError(position, "this power would take too long to calculate");
+        }
+        const auto [rightWidth, isRightSigned] = right.GetType();
+        FunctionOf(node.op, type.isSigned, isRightSigned)(type.width, left.Words(), type.width,
+                                                          left.Words(), rightWidth, right.Words());
         left.RestoreTopWord();
-        liveBits_ -= static_cast<std::uint64_t>(type.width);
+        liveBits_ -= static_cast<std::uint64_t>(rightWidth);
     }
 
     void ClaimBits(int bitCount, std::size_t position) {
@@ -134,6 +171,7 @@ class Evaluator {
     const Tree& tree_;
     std::vector<Type> types_;
     std::vector<Value> literals_;  // in the order of the text; each moves to the stack in its turn
+    std::vector<Value>::iterator nextLiteral_;
     std::vector<Value> stack_;
     std::vector<std::string_view> cutLiterals_;
     std::uint64_t liveBits_ = 0;

@@ -18,7 +18,7 @@ history, until Ctrl-D.
   tarncalc "8'hFF + 8'h01"          8'h00
   tarncalc "9'hFF + 8'h01"          9'h100
   tarncalc -d "-8'sd5"              -8'sd5
-  tarncalc -d "3 - (7 - 1)"         -32'sd3
+  tarncalc -d "7 - 2*(4 + 1)"       -32'sd3
   tarncalc "4'b1x0z + 1"            32'hxxxxxxxx
 
 Options hold for all expressions; of several bases the last one counts:
@@ -44,12 +44,28 @@ Underscores may divide digits. x and z (or ?) are digits too, in decimal only
 alone. Spaces may stand before the quote and after the base. A width is at most
 10000000.
 
-Operators: + and -, with one operand or two, and parentheses.
+Operators, the tightest first; those of one line group from the left:
+  + -          sign, with one operand: -2**2 is (-2)**2
+  **           power
+  * / %        product, quotient (cut toward zero), remainder (signed as the
+               dividend)
+  + -          sum, difference
+Parentheses group as usual.
 
 Widths and signs follow IEEE 1364. The result is as wide as the widest operand,
 and unsigned if any operand is. All operands are extended to that width before
 anything is calculated: by their top bit if the result is signed, else by
-zeros. An x or z in an operand makes the result of an operator x in every bit.
+zeros. Upper bits that the width can't hold are lost. An exponent stands aside:
+it keeps its own width and sign, and those of the result don't depend on it.
+
+  tarncalc -d "2 ** 40"             32'sd0
+  tarncalc -d "64'd2 ** 40"         64'd1099511627776
+  tarncalc -d "-7 / 2"              -32'sd3
+  tarncalc -d "8'd200 * 2 / 4"      32'd100
+
+An x or z in an operand makes the result of an operator x in every bit; so does
+division by zero, and a negative power of zero. Other negative powers are 0,
+except those of 1 and -1.
 
 A result, given back as an expression, has the same value. So a negative number
 in decimal has its minus in front of the literal; and where an octal, decimal
@@ -61,7 +77,8 @@ binary, whatever base was chosen:
 
 Errors are shown on standard error with a caret under the place; the other
 expressions are still calculated. There is a warning for each literal that
-loses upper bits because its width is too small for its digits.
+loses upper bits because its width is too small for its digits. An expression
+that needs too much storage, or a power that would take minutes, is an error.
 
 Exit status: 0 if all went well, 1 if reading or writing failed, 2 if an option
 or an expression was wrong.

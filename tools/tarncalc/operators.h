@@ -7,7 +7,7 @@
 namespace tarncalc {
 
 enum class UnaryOperator { kPlus, kMinus };
-enum class BinaryOperator { kAdd, kSubtract };
+enum class BinaryOperator { kPower, kMultiply, kDivide, kModulo, kAdd, kSubtract };
 
 struct UnarySpelling {
     std::string_view spelling;
@@ -28,9 +28,16 @@ inline constexpr UnarySpelling kUnaryOperators[] = {
 };
 
 inline constexpr BinarySpelling kBinaryOperators[] = {
-    {"+", BinaryOperator::kAdd, 10},
-    {"-", BinaryOperator::kSubtract, 10},
+    {"**", BinaryOperator::kPower, 12}, {"*", BinaryOperator::kMultiply, 11},
+    {"/", BinaryOperator::kDivide, 11}, {"%", BinaryOperator::kModulo, 11},
+    {"+", BinaryOperator::kAdd, 10},    {"-", BinaryOperator::kSubtract, 10},
 };
+
+/** Whether the right operand keeps its own type and has no part in the expression's (IEEE
+ *  1364-2005, table 5-22 and 5.5.1). */
+constexpr bool IsRightSelfDetermined(BinaryOperator op) {
+    return op == BinaryOperator::kPower;
+}
 
 }  // namespace tarncalc
 
