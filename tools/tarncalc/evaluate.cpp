@@ -1,6 +1,7 @@
 #include "evaluate.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 

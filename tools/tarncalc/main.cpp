@@ -131,8 +131,6 @@ int RunExpressions(const Options& options) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
-    // A message stands where it belongs among the results, if both go to the same place.
-    std::cerr.tie(&std::cout);
     const Options options = ReadArguments({argv + std::min(argc, 1), argv + argc});
     int status = kStatusOk;
     if (!options.unknown.empty()) {

@@ -1,6 +1,9 @@
 #include "parser.h"
 
 #include <algorithm>
+#include <iterator>
+#include <string>
+#include <utility>
 
 #include "diagnostic.h"
 #include "lexer.h"

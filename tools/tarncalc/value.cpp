@@ -1,5 +1,6 @@
 #include "value.h"
 
+#include <cstdint>
 #include <string>
 
 #include "literal.h"
