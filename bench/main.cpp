@@ -13,11 +13,6 @@ namespace {
 using tarn::bench::RatioTable;
 using tarn::bench::Row;
 
-struct Options {
-    bool isSmoke = false;
-    bool showsGrowth = false;
-};
-
 // Many short repetitions in random order: a disturbance of the machine then falls on all
 // contestants alike, and the least time of each is free of it.
 constexpr const char* kMeasuring[] = {"--benchmark_repetitions=13", "--benchmark_min_time=0.008",
@@ -27,25 +22,19 @@ constexpr const char* kSmoke[] = {"--benchmark_repetitions=1", "--benchmark_min_
 void PrintHelp() {
     std::puts(
         "tarnlib_bench: tarnlib and its peers on the same values in one run\n\n"
-        "  --smoke   run everything once and check the results only\n"
-        "  --growth  add a column: the factor of time for each doubling of the width\n\n"
+        "  --smoke   run everything once and check the results only\n\n"
         "and the options of Google Benchmark, which override what tarnlib_bench sets:\n");
     benchmark::PrintDefaultHelp();
 }
 
-// Takes the options of our own out of the arguments.
-Options TakeOptions(std::vector<char*>& arguments) {
-    Options options;
-    std::erase_if(arguments, [&](std::string_view argument) {
-        options.isSmoke |= argument == "--smoke";
-        options.showsGrowth |= argument == "--growth";
-        return argument == "--smoke" || argument == "--growth";
-    });
-    return options;
+// Takes the option of our own out of the arguments.
+bool TakeSmoke(std::vector<char*>& arguments) {
+    const auto isSmoke = [](std::string_view argument) { return argument == "--smoke"; };
+    return std::erase_if(arguments, isSmoke) != 0;
 }
 
 // The defaults stand in front of the caller's arguments, of which the last one counts.
-void InsertDefaults(const Options& options, std::vector<char*>& arguments) {
+void InsertDefaults(bool isSmoke, std::vector<char*>& arguments) {
     const auto insert = [&](const auto& defaults) {
         std::vector<char*> texts;
         for (const char* text : defaults) {
@@ -53,24 +42,24 @@ void InsertDefaults(const Options& options, std::vector<char*>& arguments) {
         }
         arguments.insert(arguments.begin() + 1, texts.begin(), texts.end());
     };
-    options.isSmoke ? insert(kSmoke) : insert(kMeasuring);
+    isSmoke ? insert(kSmoke) : insert(kMeasuring);
 }
 
 }  // namespace
 
 int main(int argumentCount, char** argumentTexts) {
     std::vector<char*> arguments(argumentTexts, argumentTexts + argumentCount);
-    const Options options = TakeOptions(arguments);
-    InsertDefaults(options, arguments);
+    const bool isSmoke = TakeSmoke(arguments);
+    InsertDefaults(isSmoke, arguments);
     int count = static_cast<int>(arguments.size());
     benchmark::Initialize(&count, arguments.data(), PrintHelp);
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return EXIT_FAILURE;
 
     const std::vector<Row> rows = tarn::bench::MakeRows();
     tarn::bench::RegisterBenchmarks(rows);
-    RatioTable table(rows, options.showsGrowth);
+    RatioTable table(rows);
     const std::size_t ran = benchmark::RunSpecifiedBenchmarks(&table);
-    if (options.isSmoke) {
+    if (isSmoke) {
         std::printf("%zu benchmarks ran\n", table.BenchmarkCount());
     } else if (table.BenchmarkCount() != 0) {
         table.PrintRows();

@@ -62,16 +62,18 @@ Ladder Sum(const Contestant& peer) {
     return WithTail(kCompute, {{128, 512, peer, kNoLimit}, {4096, kWidest, peer, WideSumLimit()}});
 }
 
-// By the call up to 64 bits, by the peer above.
-Ladder Product(const Contestant& peer) {
-    return WithTail(kUnlimited, {{128, kWidest, peer, kNoLimit}});
+// What grows faster than its operands: by the call up to 64 bits, by the peer above.
+Ladder Product(double callLimit, const Contestant& peer) {
+    return {{1, 64, kFloor, callLimit}, {128, 65536, peer, 1.5}, {kWidest, kWidest, peer, 2.5}};
+}
+
+Ladder Product(double callLimit, const Contestant& peer, int widest) {
+    return WithTail(Product(callLimit, peer), {{widest, widest, peer, 3.0}});
 }
 
 const Ladder kText = {{1, 128, kMpnGetStr, kNoLimit}, {512, kWidest, kMpnGetStr, 0.15}};
 const Ladder kOctalText = {{1, kWidest, kMpnGetStr, kNoLimit}};
-const Ladder kDecimalText = {{1, kWidest, kMpnGetStrCopy, kNoLimit}};
 const Ladder kParse = {{1, 128, kMpnSetStr, kNoLimit}, {512, kWidest, kMpnSetStr, 0.5}};
-const Ladder kDecimalParse = {{1, 65536, kMpnSetStr, 1.5}, {1048576, kWidest, kMpnSetStr, 4.0}};
 
 template <auto kExport>
 Ladder Mixed() {
@@ -110,13 +112,14 @@ const std::vector<Operation>& Operations() {
         {"SignedMinus", kSigned, kWords<Unary<tarn_SignedMinus>>, kMpnNeg, kNegate},
         {"SignedAddHalf", kSignedHalf, kWords<Binary<tarn_SignedAdd>>, kMpnAdd, Sum(kMpnAdd)},
         {"UnsignedAddHalf", kHalf, kWords<Binary<tarn_UnsignedAdd>>, kMpnAdd, Sum(kMpnAdd)},
-        {"UnsignedMul", kUnsigned, kWords<Binary<tarn_UnsignedMul>>, kMpnMul, Product(kMpnMul)},
+        {"UnsignedMul", kUnsigned, kWords<Binary<tarn_UnsignedMul>>, kMpnMul,
+         Product(3, kMpnMul, kWidestProduct)},
         {"UnsignedDiv", kHalf, kWords<Binary<tarn_UnsignedDiv>>, kMpnQuotient,
-         Product(kMpnQuotient)},
+         Product(8, kMpnQuotient, kWidestQuotient)},
         {"UnsignedMod", kHalf, kWords<Binary<tarn_UnsignedMod>>, kMpnRemainder,
-         Product(kMpnRemainder)},
+         Product(8, kMpnRemainder, kWidestQuotient)},
         {"UnsignedUPower", kUnsigned, kWords<Power<tarn_UnsignedUPower>>, kMpnPower,
-         Product(kMpnPower)},
+         Product(12, kMpnPower)},
         {"Partselect", kUnsigned, kWords<OfField<tarn_Partselect>>, kField, kSelect},
         {"ConvertToBin", kBinary, kTexts<TextOfKnown<tarn_ConvertToBin>>, kMpnGetStr, kText},
         {"ConvertToOct", kOctal, kTexts<TextOfKnown<tarn_ConvertToOct>>, kMpnGetStr, kOctalText},
@@ -128,12 +131,12 @@ const std::vector<Operation>& Operations() {
         {"ConvertToHexMixed", kHex, kTexts<TextOfMixed<tarn_ConvertToHex>>, kMixedText,
          Mixed<tarn_ConvertToHex>()},
         {"UnsignedConvertToDec", kDecimal, kTexts<DecimalOfKnown<tarn_UnsignedConvertToDec>>,
-         kMpnGetStrCopy, kDecimalText},
+         kMpnGetStrCopy, Product(12, kMpnGetStrCopy, kWidestProduct)},
         {"BinaryStringToVector", kBinary, kWords<OfText<tarn_BinaryStringToVector>>, kMpnSetStr,
          kParse},
         {"HexStringToVector", kHex, kWords<OfText<tarn_HexStringToVector>>, kMpnSetStr, kParse},
         {"DecimalStringToVector", kDecimal, kWords<OfText<tarn_DecimalStringToVector>>, kMpnSetStr,
-         kDecimalParse},
+         Product(12, kMpnSetStr, kWidestProduct)},
     };
     return operations;
 }

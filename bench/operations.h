@@ -9,8 +9,11 @@
 
 namespace tarn::bench {
 
-inline constexpr int kWidths[] = {1, 8, 32, 64, 128, 512, 4096, 65536, 1048576};
+inline constexpr int kWidths[] = {1, 8, 32, 64, 128, 512, 4096, 65536, 1048576, 8000000, 16000000};
+// The widest that every operation is measured at, and near the limits of quotients and of products.
 inline constexpr int kWidest = 1048576;
+inline constexpr int kWidestQuotient = 8000000;
+inline constexpr int kWidestProduct = 16000000;
 
 inline constexpr double kNoLimit = 0;
 

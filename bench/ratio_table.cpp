@@ -68,14 +68,14 @@ bool RatioTable::PrintRow(const Row* before, const Row& row) const {
     PrintNumber(12, 1, peer);
     PrintNumber(8, 2, ratio);
     PrintNumber(7, 2, limit);
-    if (showsGrowth_) PrintNumber(7, 2, before == nullptr ? std::nullopt : Growth(*before, row));
+    PrintNumber(7, 2, before == nullptr ? std::nullopt : Growth(*before, row));
     std::printf("%s\n", isMissed ? "  MISSED" : "");
     return isMissed;
 }
 
 void RatioTable::PrintRows() const {
-    std::printf("%-24s %8s %12s  %-12s %12s %8s %7s%s\n", "operation", "bits", "tarnlib ns", "peer",
-                "peer ns", "ratio", "limit", showsGrowth_ ? "  growth" : "");
+    std::printf("%-24s %8s %12s  %-12s %12s %8s %7s %7s\n", "operation", "bits", "tarnlib ns",
+                "peer", "peer ns", "ratio", "limit", "growth");
     int missed = 0;
     const Row* before = nullptr;
     for (const Row& row : rows_) {

@@ -15,8 +15,7 @@ namespace tarn::bench {
 
 class RatioTable : public benchmark::BenchmarkReporter {
   public:
-    RatioTable(const std::vector<Row>& rows, bool showsGrowth)
-        : rows_(rows), showsGrowth_(showsGrowth) {}
+    explicit RatioTable(const std::vector<Row>& rows) : rows_(rows) {}
 
     bool ReportContext(const Context& context) override;
     void ReportRuns(const std::vector<Run>& runs) override;
@@ -36,7 +35,6 @@ class RatioTable : public benchmark::BenchmarkReporter {
     bool PrintRow(const Row* before, const Row& row) const;
 
     const std::vector<Row>& rows_;
-    bool showsGrowth_;
     std::map<std::string, double> best_;
     std::set<std::string> failures_;
 };
