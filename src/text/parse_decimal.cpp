@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "arith/natural/radix.h"
+#include "arith/natural/radix_parse.h"
 #include "arith/pack.h"
 #include "core/words.h"
 #include "text/parse.h"
@@ -11,25 +12,55 @@
 namespace tarn {
 namespace {
 
+// Eight characters as bytes, digits as their values.
+std::uint64_t LoadEight(const char* characters) noexcept {
+    std::uint64_t eight;
+    std::memcpy(&eight, characters, sizeof eight);
+    return eight ^ 0x3030303030303030;
+}
+
+// Whether one of eight such bytes is above 9. The addition carries a byte of 10 to 0x7f into bit 7; a
+// higher one has that bit, and only such a byte can carry into the next.
+constexpr bool HasOther(std::uint64_t eight) noexcept {
+    return (((eight + 0x7676767676767676) | eight) & 0x8080808080808080) != 0;
+}
+
+// The value of a text of up to 38 digits and nothing else; false for any other text.
+constexpr std::size_t kDoubleLimbDigits = 38;
+bool ReadShort(std::string_view digits, DoubleLimb* value) noexcept {
+    if (digits.size() > kDoubleLimbDigits) return false;
+    const std::size_t first = digits.size() % 8;
+    Limb top = 0;
+    for (std::size_t i = 0; i < first; ++i) {
+        const auto digit = static_cast<unsigned char>(digits[i] ^ '0');
+        if (digit > 9) return false;
+        top = 10 * top + digit;
+    }
+    DoubleLimb read = top;
+    for (std::size_t i = first; i < digits.size(); i += 8) {
+        const std::uint64_t eight = LoadEight(digits.data() + i);
+        if (HasOther(eight)) return false;
+        read = read * 100'000'000U + JoinEightDigits(eight);
+    }
+    *value = read;
+    return true;
+}
+
 // Copies the values of the digits without underscores; returns their count. A character that is no
 // digit counts as 0.
 std::size_t CopyDigitValues(std::uint8_t* values, std::string_view digits) noexcept {
-    // Eight at a time while all are digits: a byte of 10 to 0x7f reaches bit 7 by the addition, a
-    // higher one has it; a carry into the next byte comes from such a byte only.
-    std::uint64_t other = 0;
+    bool hasOther = false;
     std::size_t i = 0;
     for (; i + 8 <= digits.size(); i += 8) {
-        std::uint64_t eight;
-        std::memcpy(&eight, digits.data() + i, sizeof eight);
-        eight ^= 0x3030303030303030;
-        other |= (eight + 0x7676767676767676) | eight;
+        const std::uint64_t eight = LoadEight(digits.data() + i);
+        hasOther |= HasOther(eight);
         std::memcpy(values + i, &eight, sizeof eight);
     }
     for (; i < digits.size(); ++i) {
         values[i] = static_cast<std::uint8_t>(digits[i] ^ '0');
-        other |= values[i] > 9 ? 0x80U : 0U;
+        hasOther |= values[i] > 9;
     }
-    if ((other & 0x8080808080808080) == 0) return digits.size();
+    if (!hasOther) return digits.size();
     std::size_t count = 0;
     for (const char character : digits) {
         if (character == '_') continue;
@@ -45,6 +76,35 @@ bool ReachesBit(std::size_t width, Whole value) noexcept {
     return (value.count - 1) * kLimbBits + top > width;
 }
 
+// Stores the value, of at least one limb but perhaps 0; for 0 there is no verdict.
+Fit StoreValue(Result result, Whole value) noexcept {
+    StoreWhole(result, value);
+    CleanTopWord(result);
+    if (value.limbs[value.count - 1] == 0) return Fit::kUnsettled;
+    const auto width = static_cast<std::size_t>(result.width);
+    return ReachesBit(width, value) ? Fit::kTruncated : Fit::kWhole;
+}
+
+Fit ParseLong(Result result, std::string_view digits) {
+    constexpr std::size_t kShortText = 512;
+    WorkingArea<std::uint8_t, kShortText> values(digits.size());
+    std::size_t count = CopyDigitValues(values.Items(), digits);
+    const std::uint8_t* significant = values.Items();
+    while (count > 1 && *significant == 0) {
+        ++significant;
+        --count;
+    }
+    if (count == 0) {  // underscores only
+        FillWords(result.words, result.Count(), 0);
+        return Fit::kUnsettled;
+    }
+    const std::size_t room = FromDecimalLimbs(count);
+    WorkingArea<Limb, kShortText / 4> limbs(room + FromDecimalScratch(count));
+    const std::size_t limbCount =
+        FromDecimal(limbs.Items(), significant, count, limbs.Items() + room);
+    return StoreValue(result, {limbs.Items(), std::max<std::size_t>(limbCount, 1), false});
+}
+
 }  // namespace
 
 Fit ParseDecimalDigits(Result result, std::string_view digits) {
@@ -55,27 +115,11 @@ Fit ParseDecimalDigits(Result result, std::string_view digits) {
         CleanTopWord(result);
         return Fit::kUnsettled;
     }
-    constexpr std::size_t kShortText = 512;
-    WorkingArea<std::uint8_t, kShortText> values(digits.size());
-    std::size_t count = CopyDigitValues(values.Items(), digits);
-    const std::uint8_t* significant = values.Items();
-    while (count > 0 && *significant == 0) {
-        ++significant;
-        --count;
+    if (DoubleLimb value = 0; ReadShort(digits, &value)) {
+        Limb limbs[] = {LowLimb(value), HighLimb(value)};
+        return StoreValue(result, {limbs, limbs[1] != 0 ? 2U : 1U, false});
     }
-    if (count == 0) {
-        FillWords(result.words, result.Count(), 0);
-        return Fit::kUnsettled;
-    }
-    const std::size_t room = FromDecimalLimbs(count);
-    WorkingArea<Limb, kShortText / 4> limbs(room + FromDecimalScratch(count));
-    const std::size_t limbCount =
-        FromDecimal(limbs.Items(), significant, count, limbs.Items() + room);
-    const Whole value{limbs.Items(), limbCount, false};
-    StoreWhole(result, value);
-    CleanTopWord(result);
-    const auto width = static_cast<std::size_t>(result.width);
-    return ReachesBit(width, value) ? Fit::kTruncated : Fit::kWhole;
+    return ParseLong(result, digits);
 }
 
 }  // namespace tarn

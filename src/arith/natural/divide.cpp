@@ -27,14 +27,22 @@ void DivideByOneOrTwo(Limb* quotient, Limb* remainder, const Limb* a, std::size_
 
 Limb DivideNormalised(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d,
                       std::size_t dCount, const TopDivisor& top, Limb* scratch) noexcept {
-    if (std::min(aCount - dCount, dCount) < kDivideHalvesLimbs) {
+    const std::size_t shorter = std::min(aCount - dCount, dCount);
+    if (shorter < kDivideHalvesLimbs) {
         return DivideSchoolbook(quotient, a, aCount, d, dCount, top);
     }
-    return DivideByHalves(quotient, a, aCount, d, dCount, top, kDivideHalvesLimbs, scratch);
+    if (shorter < kDivideReciprocalLimbs) {
+        return DivideByHalves(quotient, a, aCount, d, dCount, top, kDivideHalvesLimbs, scratch);
+    }
+    return DivideByReciprocal(quotient, a, aCount, d, dCount, top, kReciprocalLeafLimbs, scratch);
 }
 
 std::size_t DivideNormalisedScratch(std::size_t aCount, std::size_t dCount) noexcept {
-    return std::min(aCount, dCount) < kDivideHalvesLimbs ? 0 : DivideByHalvesScratch(dCount);
+    const std::size_t shorter = std::min(aCount / 2, dCount);
+    if (shorter < kDivideHalvesLimbs) return 0;
+    const std::size_t forHalves = DivideByHalvesScratch(dCount);
+    if (shorter < kDivideReciprocalLimbs) return forHalves;
+    return std::max(forHalves, DivideByReciprocalScratch(aCount, dCount));
 }
 
 std::size_t DivideScratch(std::size_t aCount, std::size_t dCount) noexcept {

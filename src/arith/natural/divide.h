@@ -13,6 +13,7 @@ namespace tarn {
 // neither overlaps an operand or the other.
 void Divide(Limb* quotient, Limb* remainder, const Limb* a, std::size_t aCount, const Limb* d,
             std::size_t dCount, Limb* scratch) noexcept;
+// Grows with both counts: DivideScratch(a, a) is enough for any operands of up to a limbs.
 std::size_t DivideScratch(std::size_t aCount, std::size_t dCount) noexcept;
 
 }  // namespace tarn

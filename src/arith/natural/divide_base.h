@@ -32,6 +32,19 @@ Limb DivideByHalves(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d, 
                     const TopDivisor& top, std::size_t leafCount, Limb* scratch) noexcept;
 std::size_t DivideByHalvesScratch(std::size_t dCount) noexcept;
 
+// By blocks, each a product with a reciprocal of the divisor that ApproximateReciprocal finds. The
+// quotient has at least 4 limbs.
+Limb DivideByReciprocal(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d,
+                        std::size_t dCount, const TopDivisor& top, std::size_t leafCount,
+                        Limb* scratch) noexcept;
+std::size_t DivideByReciprocalScratch(std::size_t aCount, std::size_t dCount) noexcept;
+
+// x[0 .. count) such that X = 2^(64 count) + x is a reciprocal of the normalised d, count >= 2:
+// X d < 2^(128 count) < (X + 2) d. By division up to `leafCount` limbs, which is at least 2.
+void ApproximateReciprocal(Limb* x, const Limb* d, std::size_t count, const TopDivisor& top,
+                           std::size_t leafCount, Limb* scratch) noexcept;
+std::size_t ApproximateReciprocalScratch(std::size_t count) noexcept;
+
 // By whichever is fastest.
 Limb DivideNormalised(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d,
                       std::size_t dCount, const TopDivisor& top, Limb* scratch) noexcept;

@@ -70,8 +70,8 @@ Limb DivideByHalves(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d, 
 }
 
 std::size_t DivideByHalvesScratch(std::size_t dCount) noexcept {
-    // The factors of a product have dCount limbs together.
-    return dCount + ProductScratch(dCount, dCount - dCount / 2);
+    // The factors of each product have dCount limbs together.
+    return dCount + ProductScratch(dCount);
 }
 
 }  // namespace tarn

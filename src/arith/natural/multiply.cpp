@@ -95,7 +95,8 @@ void Multiply(Limb* result, const Limb* a, std::size_t aCount, const Limb* b, st
     if (aCount == bCount) {
         return MultiplyBalanced(result, a, a == b ? nullptr : b, aCount, scratch);
     }
-    if (bCount >= kNttUnbalancedThreshold) return MultiplyNtt(result, a, aCount, b, bCount, scratch);
+    if (bCount >= kNttUnbalancedThreshold)
+        return MultiplyNtt(result, a, aCount, b, bCount, scratch);
     MultiplyPieces(result, a, aCount, b, bCount, scratch);
 }
 

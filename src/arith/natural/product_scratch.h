@@ -1,4 +1,4 @@
-// Scratch for products whose operands are known by their greatest counts only.
+// Scratch for products of which only the sum of the operands' counts is known.
 #ifndef TARN_ARITH_NATURAL_PRODUCT_SCRATCH_H
 #define TARN_ARITH_NATURAL_PRODUCT_SCRATCH_H
 
@@ -6,17 +6,21 @@
 #include <cstddef>
 
 #include "arith/natural/multiply.h"
+#include "arith/natural/multiply_internal.h"
+#include "arith/natural/thresholds.h"
 
 namespace tarn {
 
-// No less than MultiplyScratch of any counts up to these. That function does not grow with its
-// operands everywhere: what a long operand leaves over when it is cut into pieces of the short one
-// may need more than a piece. Three times the shorter count pays for all such leftovers together,
-// for they shrink like the remainders in Euclid's algorithm.
-inline std::size_t ProductScratch(std::size_t aCount, std::size_t bCount) noexcept {
-    const std::size_t shorter = std::min(aCount, bCount);
-    return 3 * shorter +
-           std::max(MultiplyScratch(aCount, bCount), MultiplyScratch(shorter, shorter));
+// No less than MultiplyScratch of any two counts with a sum up to `total`. That function does not
+// grow with its operands everywhere. What a long operand leaves over when it is cut into pieces of
+// the short one may need more than a piece; three times the shorter count pays for all leftovers
+// together, for they shrink like the remainders in Euclid's algorithm. And an unbalanced product may
+// go by transforms where a balanced one of the same total does not; theirs depends on the total.
+inline std::size_t ProductScratch(std::size_t total) noexcept {
+    const std::size_t half = std::max<std::size_t>(1, (total + 1) / 2);
+    const std::size_t forPieces = 3 * half + MultiplyScratch(half, half);
+    return half < kNttUnbalancedThreshold ? forPieces
+                                          : std::max(forPieces, MultiplyNttScratch(half, half));
 }
 
 }  // namespace tarn

@@ -15,6 +15,7 @@ namespace tarn {
 std::size_t FromDecimal(Limb* result, const std::uint8_t* digits, std::size_t digitCount,
                         Limb* scratch) noexcept;
 std::size_t FromDecimalLimbs(std::size_t digitCount) noexcept;
+// Grows with the count, as ToDecimalScratch does.
 std::size_t FromDecimalScratch(std::size_t digitCount) noexcept;
 
 // The decimal digits of a[0 .. count) as characters, right-aligned: the last one stands at end[-1],

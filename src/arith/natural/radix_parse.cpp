@@ -16,19 +16,10 @@ namespace {
 
 static_assert(std::endian::native == std::endian::little, "the first digit is the lowest byte");
 
-// Eight digits at once, after Johnny Lee and Daniel Lemire: each multiplication adds neighbouring
-// fields, the earlier (lower) one weighted by the power of ten that the later one spans. With
-// digits a b c ... from the lowest byte upwards:
-//   bytes      a, b, c, d ...      times 10 * 2^8 + 1:      10a + b in every second byte
-//   16-bit     ab, cd ...          times 100 * 2^16 + 1:    100ab + cd in every second field
-//   32-bit     abcd, efgh          times 10000 * 2^32 + 1:  10000abcd + efgh in the upper half
-// No field overflows: 99, 9999 and 99999999 fit theirs.
 inline Limb GatherEight(const std::uint8_t* digits) noexcept {
     Limb fields = 0;
     std::memcpy(&fields, digits, sizeof fields);
-    fields = ((fields * ((10U << 8) + 1)) >> 8) & 0x00FF'00FF'00FF'00FFU;
-    fields = ((fields * ((100U << 16) + 1)) >> 16) & 0x0000'FFFF'0000'FFFFU;
-    return (fields * ((Limb{10000} << 32) + 1)) >> 32;
+    return JoinEightDigits(fields);
 }
 
 inline Limb GatherChunk(const std::uint8_t* digits) noexcept {
@@ -119,7 +110,7 @@ std::size_t ParseByHalvesScratch(std::size_t digitCount, std::size_t leafChunks)
         const std::size_t low = chunks >> (depth + 1);
         const std::size_t power = DecimalPowers::MostLimbs(low);
         held += part - low + power;
-        most = std::max(most, held + ProductScratch(part - low, power));
+        most = std::max(most, held + ProductScratch(part - low + power));
     }
     return DecimalPowers::StorageLimbs(chunks) + most;
 }

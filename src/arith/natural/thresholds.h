@@ -25,15 +25,16 @@ inline constexpr std::size_t kSquareNttThreshold = 1700;
 inline constexpr std::size_t kMuldersThreshold = 60;
 inline constexpr std::size_t kLowByFullThreshold = 1900;
 
-// Chunks of 19 digits up to which decimal digits are gathered chunk by chunk; above, by halves.
-// Measured by bench/tune_divide.cpp.
-inline constexpr std::size_t kParseHalvesChunks = 40;
+// bench/tune_divide: limbs of the shorter of divisor and quotient, for halving both and for division
+// by a reciprocal; limbs up to which the reciprocal itself comes from a division.
+inline constexpr std::size_t kDivideHalvesLimbs = 18;
+inline constexpr std::size_t kDivideReciprocalLimbs = 3500;
+inline constexpr std::size_t kReciprocalLeafLimbs = 500;
 
-// Limbs of divisor and of quotient from which both are halved; below, one quotient limb at a time.
-inline constexpr std::size_t kDivideHalvesLimbs = 20;
-
-// Limbs up to which digits are taken off chunk by chunk; above, the number is cut into halves.
-inline constexpr std::size_t kFormatHalvesLimbs = 30;
+// bench/tune_divide: the most chunks of 19 digits, and limbs, that are converted one by one rather
+// than by halves.
+inline constexpr std::size_t kParseHalvesChunks = 65;
+inline constexpr std::size_t kFormatHalvesLimbs = 50;
 
 }  // namespace tarn
 
