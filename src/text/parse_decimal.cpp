@@ -2,8 +2,10 @@
 #include <bit>
 #include <cstdint>
 
+#include "arith/natural/decimal_power.h"
 #include "arith/natural/radix.h"
 #include "arith/natural/radix_parse.h"
+#include "arith/natural/span.h"
 #include "arith/pack.h"
 #include "core/words.h"
 #include "text/parse.h"
@@ -25,24 +27,41 @@ constexpr bool HasOther(std::uint64_t eight) noexcept {
     return (((eight + 0x7676767676767676) | eight) & 0x8080808080808080) != 0;
 }
 
-// The value of a text of up to 38 digits and nothing else; false for any other text.
-constexpr std::size_t kDoubleLimbDigits = 38;
-bool ReadShort(std::string_view digits, DoubleLimb* value) noexcept {
-    if (digits.size() > kDoubleLimbDigits) return false;
-    const std::size_t first = digits.size() % 8;
-    Limb top = 0;
-    for (std::size_t i = 0; i < first; ++i) {
-        const auto digit = static_cast<unsigned char>(digits[i] ^ '0');
+// The value of up to 19 characters; false where one is no digit.
+bool ReadChunk(const char* characters, std::size_t count, Limb* value) noexcept {
+    Limb read = 0;
+    for (; count % 8 != 0; --count) {
+        const auto digit = static_cast<unsigned char>(*characters++ ^ '0');
         if (digit > 9) return false;
-        top = 10 * top + digit;
+        read = 10 * read + digit;
     }
-    DoubleLimb read = top;
-    for (std::size_t i = first; i < digits.size(); i += 8) {
-        const std::uint64_t eight = LoadEight(digits.data() + i);
+    for (; count > 0; count -= 8, characters += 8) {
+        const std::uint64_t eight = LoadEight(characters);
         if (HasOther(eight)) return false;
         read = read * 100'000'000U + JoinEightDigits(eight);
     }
     *value = read;
+    return true;
+}
+
+// The value of a text of up to three chunks that are digits and nothing else; false for any other.
+constexpr std::size_t kShortDigits = 3 * kChunkDigits;
+bool ReadShort(std::string_view digits, Limb (&value)[3]) noexcept {
+    if (digits.size() > kShortDigits) return false;
+    Limb chunks[3] = {};
+    for (Limb& chunk : chunks) {
+        const std::size_t count = std::min(digits.size(), kChunkDigits);
+        const std::size_t rest = digits.size() - count;
+        if (!ReadChunk(digits.data() + rest, count, &chunk)) return false;
+        digits.remove_suffix(count);
+        if (rest == 0) break;
+    }
+    const DoubleLimb upper = MultiplyLimbs(chunks[2], kChunkPower) + chunks[1];
+    const DoubleLimb low = MultiplyLimbs(LowLimb(upper), kChunkPower) + chunks[0];
+    const DoubleLimb high = MultiplyLimbs(HighLimb(upper), kChunkPower) + HighLimb(low);
+    value[0] = LowLimb(low);
+    value[1] = LowLimb(high);
+    value[2] = HighLimb(high);
     return true;
 }
 
@@ -115,9 +134,9 @@ Fit ParseDecimalDigits(Result result, std::string_view digits) {
         CleanTopWord(result);
         return Fit::kUnsettled;
     }
-    if (DoubleLimb value = 0; ReadShort(digits, &value)) {
-        Limb limbs[] = {LowLimb(value), HighLimb(value)};
-        return StoreValue(result, {limbs, limbs[1] != 0 ? 2U : 1U, false});
+    if (Limb limbs[3]; ReadShort(digits, limbs)) {
+        const std::size_t count = std::max<std::size_t>(NormalisedCount(limbs, 3), 1);
+        return StoreValue(result, {limbs, count, false});
     }
     return ParseLong(result, digits);
 }
