@@ -33,7 +33,8 @@ std::string UnsignedText(const Vec& vec) {
 std::string SignedText(const Vec& vec) {
     if (HasUnknown(vec)) return UnknownText(vec);
     const mpz_class value = ToInteger(vec);
-    if (value >> static_cast<unsigned>(vec.width - 1) == 0) return value.get_str();
+    if (mpz_sizeinbase(value.get_mpz_t(), 2) < static_cast<std::size_t>(vec.width) || value == 0)
+        return value.get_str();
     mpz_class magnitude = -value;
     mpz_fdiv_r_2exp(magnitude.get_mpz_t(), magnitude.get_mpz_t(), static_cast<unsigned>(vec.width));
     return std::string(1, '-').append(magnitude.get_str());  // also in front of a 0
@@ -58,7 +59,8 @@ INSTANTIATE_TEST_SUITE_P(Decimal, DecimalText,
                          kExportName);
 
 TEST_P(DecimalText, MatchesModel) {
-    const auto& [name, function, model] = GetParam();
+    ToDecimal* const function = GetParam().function;
+    const auto model = GetParam().model;
     const std::size_t sign = function == tarn_SignedConvertToDec ? 1 : 0;
     for (Gen& gen : Seeds(kRuns)) {
         const Vec value = gen.OneIn(8) ? gen.FourState(gen.Width()) : gen.Vector(gen.Width());
