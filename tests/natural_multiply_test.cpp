@@ -1,4 +1,5 @@
 // The product kernels on naturals, each algorithm on its own, against GMP.
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <gmp.h>
@@ -156,6 +157,19 @@ TEST(NaturalMultiply, EachFormEqualsGmp) {
             const Limbs ones = generator.Take(count, Kind::kOnes);
             ASSERT_NO_FATAL_FAILURE(Check(form, ones, ones));
         }
+    }
+}
+
+// A product of the top thirds that is all ones, and a middle coefficient that carries into it.
+TEST(NaturalMultiply, ToomCarriesThroughTheTopProduct) {
+    const Form form = Balanced("Toom 3", MultiplyToom3, MultiplyToom3Scratch, {});
+    for (const std::size_t count : {9U, 30U, 99U}) {
+        const Limbs a(count, ~Limb{0});
+        Limbs b(count, 0);
+        const std::size_t part = CountOfThird(count);
+        std::fill_n(b.begin(), 2 * part, ~Limb{0});
+        b[2 * part] = 1;
+        ASSERT_NO_FATAL_FAILURE(Check(form, a, b));
     }
 }
 

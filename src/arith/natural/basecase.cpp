@@ -1,3 +1,5 @@
+#include <iterator>
+
 #include "arith/natural/column.h"
 #include "arith/natural/multiply_internal.h"
 #include "arith/natural/span.h"
@@ -16,8 +18,8 @@ enum class Upto { kEnd, kACount };
 
 // result[0 .. aCount + kRows) = or += a * b[0 .. kRows), aCount >= kRows. The limbs from aCount on
 // are written, not added to: earlier bands end there.
-template <std::size_t kRows, Into kInto, Upto kUpto = Upto::kEnd>
-inline void MultiplyBand(Limb* result, const Limb* a, std::size_t aCount, const Limb* b) noexcept {
+template <std::size_t kRows, Into kInto, Upto kUpto>
+void MultiplyBand(Limb* result, const Limb* a, std::size_t aCount, const Limb* b) noexcept {
     ColumnSum sum;
     Unroll<kRows - 1>([&](auto column) {
         if constexpr (kInto == Into::kSum) sum.AddLimb(result[column]);
@@ -47,24 +49,37 @@ constexpr std::size_t FirstRows(std::size_t rows) noexcept {
     return rows < kBandRows ? rows : kBandRows + rows % kBandRows;
 }
 
-template <Upto kUpto = Upto::kEnd>
-inline void FirstBand(Limb* result, const Limb* a, std::size_t aCount, const Limb* b,
-                      std::size_t rows) noexcept {
-    switch (rows) {
-        case 1:
-            return MultiplyBand<1, Into::kFresh, kUpto>(result, a, aCount, b);
-        case 2:
-            return MultiplyBand<2, Into::kFresh, kUpto>(result, a, aCount, b);
-        case 3:
-            return MultiplyBand<3, Into::kFresh, kUpto>(result, a, aCount, b);
-        case 4:
-            return MultiplyBand<4, Into::kFresh, kUpto>(result, a, aCount, b);
-        case 5:
-            return MultiplyBand<5, Into::kFresh, kUpto>(result, a, aCount, b);
-        case 6:
-            return MultiplyBand<6, Into::kFresh, kUpto>(result, a, aCount, b);
-        default:
-            return MultiplyBand<7, Into::kFresh, kUpto>(result, a, aCount, b);
+using BandFunction = void (*)(Limb*, const Limb*, std::size_t, const Limb*) noexcept;
+template <Upto kUpto>
+constexpr BandFunction kFirstBand[] = {
+    MultiplyBand<1, Into::kFresh, kUpto>, MultiplyBand<2, Into::kFresh, kUpto>,
+    MultiplyBand<3, Into::kFresh, kUpto>, MultiplyBand<4, Into::kFresh, kUpto>,
+    MultiplyBand<5, Into::kFresh, kUpto>, MultiplyBand<6, Into::kFresh, kUpto>,
+    MultiplyBand<7, Into::kFresh, kUpto>};
+
+// Functions of their own, so that the short ones save no registers for the long ones.
+using FixedFunction = void (*)(Limb*, const Limb*, const Limb*) noexcept;
+constexpr FixedFunction kMultiplyFixed[] = {MultiplyFixed<1>, MultiplyFixed<2>, MultiplyFixed<3>,
+                                            MultiplyFixed<4>, MultiplyFixed<5>, MultiplyFixed<6>,
+                                            MultiplyFixed<7>, MultiplyFixed<8>};
+constexpr FixedFunction kMultiplyLowFixed[] = {
+    MultiplyFixed<1, 1>, MultiplyFixed<2, 2>, MultiplyFixed<3, 3>, MultiplyFixed<4, 4>,
+    MultiplyFixed<5, 5>, MultiplyFixed<6, 6>, MultiplyFixed<7, 7>, MultiplyFixed<8, 8>};
+
+void MultiplyInBands(Limb* result, const Limb* a, std::size_t aCount, const Limb* b,
+                     std::size_t bCount) noexcept {
+    const std::size_t first = FirstRows(bCount);
+    kFirstBand<Upto::kEnd>[first - 1](result, a, aCount, b);
+    for (std::size_t row = first; row < bCount; row += kBandRows) {
+        MultiplyBand<kBandRows, Into::kSum, Upto::kEnd>(result + row, a, aCount, b + row);
+    }
+}
+
+void MultiplyLowInBands(Limb* result, const Limb* a, const Limb* b, std::size_t count) noexcept {
+    const std::size_t first = FirstRows(count);
+    kFirstBand<Upto::kACount>[first - 1](result, a, count, b);
+    for (std::size_t row = first; row < count; row += kBandRows) {
+        MultiplyBand<kBandRows, Into::kSum, Upto::kACount>(result + row, a, count - row, b + row);
     }
 }
 
@@ -72,61 +87,15 @@ inline void FirstBand(Limb* result, const Limb* a, std::size_t aCount, const Lim
 
 void MultiplyBasecase(Limb* result, const Limb* a, std::size_t aCount, const Limb* b,
                       std::size_t bCount) noexcept {
-    if (aCount == bCount) {
-        switch (aCount) {
-            case 1:
-                return MultiplyFixed<1>(result, a, b);
-            case 2:
-                return MultiplyFixed<2>(result, a, b);
-            case 3:
-                return MultiplyFixed<3>(result, a, b);
-            case 4:
-                return MultiplyFixed<4>(result, a, b);
-            case 5:
-                return MultiplyFixed<5>(result, a, b);
-            case 6:
-                return MultiplyFixed<6>(result, a, b);
-            case 7:
-                return MultiplyFixed<7>(result, a, b);
-            case 8:
-                return MultiplyFixed<8>(result, a, b);
-            default:
-                break;
-        }
+    if (aCount == bCount && aCount <= std::size(kMultiplyFixed)) {
+        return kMultiplyFixed[aCount - 1](result, a, b);
     }
-    const std::size_t first = FirstRows(bCount);
-    FirstBand(result, a, aCount, b, first);
-    for (std::size_t row = first; row < bCount; row += kBandRows) {
-        MultiplyBand<kBandRows, Into::kSum>(result + row, a, aCount, b + row);
-    }
+    MultiplyInBands(result, a, aCount, b, bCount);
 }
 
 void MultiplyLowBasecase(Limb* result, const Limb* a, const Limb* b, std::size_t count) noexcept {
-    switch (count) {
-        case 1:
-            return MultiplyFixed<1, 1>(result, a, b);
-        case 2:
-            return MultiplyFixed<2, 2>(result, a, b);
-        case 3:
-            return MultiplyFixed<3, 3>(result, a, b);
-        case 4:
-            return MultiplyFixed<4, 4>(result, a, b);
-        case 5:
-            return MultiplyFixed<5, 5>(result, a, b);
-        case 6:
-            return MultiplyFixed<6, 6>(result, a, b);
-        case 7:
-            return MultiplyFixed<7, 7>(result, a, b);
-        case 8:
-            return MultiplyFixed<8, 8>(result, a, b);
-        default:
-            break;
-    }
-    const std::size_t first = FirstRows(count);
-    FirstBand<Upto::kACount>(result, a, count, b, first);
-    for (std::size_t row = first; row < count; row += kBandRows) {
-        MultiplyBand<kBandRows, Into::kSum, Upto::kACount>(result + row, a, count - row, b + row);
-    }
+    if (count <= std::size(kMultiplyLowFixed)) return kMultiplyLowFixed[count - 1](result, a, b);
+    MultiplyLowInBands(result, a, b, count);
 }
 
 }  // namespace tarn

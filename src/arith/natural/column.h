@@ -17,10 +17,8 @@ class ColumnSum {
         low_ += product;
         high_ += low_ < product ? 1U : 0U;
     }
-    void AddLimb(Limb a) noexcept {
-        low_ += a;
-        high_ += low_ < a ? 1U : 0U;
-    }
+    // Only in front of the column's products: what came from the column before is far below 2^127.
+    void AddLimb(Limb a) noexcept { low_ += a; }
     void Double() noexcept {
         high_ = (high_ << 1) | (HighLimb(low_) >> (kLimbBits - 1));
         low_ <<= 1;
@@ -55,7 +53,7 @@ inline void AddColumn(ColumnSum& sum, const Limb* a, const Limb* b) noexcept {
 
 // result[0 .. 2 * kCount) = a * b, or with kResult < 2 * kCount only its low limbs.
 template <std::size_t kCount, std::size_t kResult = 2 * kCount>
-inline void MultiplyFixed(Limb* result, const Limb* a, const Limb* b) noexcept {
+void MultiplyFixed(Limb* result, const Limb* a, const Limb* b) noexcept {
     ColumnSum sum;
     Unroll<kResult>([&](auto column) {
         if constexpr (column < 2 * kCount - 1) AddColumn<column, kCount, kCount>(sum, a, b);

@@ -31,7 +31,8 @@ struct Plan {
 
 Plan MakePlan(std::size_t aCount, std::size_t bCount) noexcept {
     Plan plan{};
-    // A coefficient of the product is a sum of at most `terms` products below 2^(2 bits).
+    // A coefficient of the product is a sum of at most `terms` products below 2^(2 bits). Operands
+    // below 10^8 limbs never need fewer than the 48 bits supposed here.
     const auto terms = CeilingOf(std::min(aCount, bCount) * kLimbBits, 48);
     plan.bits = (kModulusBits - static_cast<int>(std::bit_width(terms))) / 2;
     const auto bits = static_cast<std::size_t>(plan.bits);

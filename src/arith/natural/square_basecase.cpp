@@ -1,5 +1,7 @@
 // Squares by the schoolbook: the products a[i] a[j] with i < j are gathered once, in bands of rows;
 // then their sum is doubled and the squares of the limbs are added on the way.
+#include <iterator>
+
 #include "arith/natural/column.h"
 #include "arith/natural/multiply_internal.h"
 #include "arith/natural/unroll.h"
@@ -26,14 +28,14 @@ inline void AddPairs(ColumnSum& sum, const Limb* a) noexcept {
     }
 }
 
-// All pairs of a[0 .. kCount) into result[1 .. 2 * kCount - 1). Earlier bands end at
+// Adds all pairs of a[0 .. kCount) to result[1 .. 2 * kCount - 1). Earlier bands end at
 // result[kCount].
-template <std::size_t kCount, Into kInto>
-inline void AddTriangle(Limb* result, const Limb* a) noexcept {
+template <std::size_t kCount>
+void AddTriangle(Limb* result, const Limb* a) noexcept {
     ColumnSum sum;
     Unroll<2 * kCount - 2>([&](auto index) {
         constexpr std::size_t kColumn = index + 1;
-        if constexpr (kInto == Into::kSum && kColumn < kCount) sum.AddLimb(result[kColumn]);
+        if constexpr (kColumn < kCount) sum.AddLimb(result[kColumn]);
         AddPairs<kColumn, kCount, kCount>(sum, a);
         result[kColumn] = sum.Take();
     });
@@ -106,49 +108,23 @@ void SquareFixed(Limb* result, const Limb* a) noexcept {
     result[2 * kCount - 1] = sum.Take();
 }
 
-void AddLastTriangle(Limb* result, const Limb* a, std::size_t count) noexcept {
-    switch (count) {
-        case 4:
-            return AddTriangle<4, Into::kSum>(result, a);
-        case 5:
-            return AddTriangle<5, Into::kSum>(result, a);
-        case 6:
-            return AddTriangle<6, Into::kSum>(result, a);
-        default:
-            return AddTriangle<7, Into::kSum>(result, a);
-    }
-}
+// Functions of their own, so that the short ones save no registers for the long ones.
+using SquareFunction = void (*)(Limb*, const Limb*) noexcept;
+constexpr SquareFunction kSquareFixed[] = {SquareFixed<1>, SquareFixed<2>, SquareFixed<3>,
+                                           SquareFixed<4>, SquareFixed<5>, SquareFixed<6>,
+                                           SquareFixed<7>, SquareFixed<8>};
+// What whole bands leave: of kBandRows to 2 * kBandRows - 1 limbs.
+constexpr SquareFunction kLastTriangle[] = {AddTriangle<4>, AddTriangle<5>, AddTriangle<6>,
+                                            AddTriangle<7>};
 
-}  // namespace
-
-void SquareBasecase(Limb* result, const Limb* a, std::size_t count) noexcept {
-    switch (count) {
-        case 1:
-            return SquareFixed<1>(result, a);
-        case 2:
-            return SquareFixed<2>(result, a);
-        case 3:
-            return SquareFixed<3>(result, a);
-        case 4:
-            return SquareFixed<4>(result, a);
-        case 5:
-            return SquareFixed<5>(result, a);
-        case 6:
-            return SquareFixed<6>(result, a);
-        case 7:
-            return SquareFixed<7>(result, a);
-        case 8:
-            return SquareFixed<8>(result, a);
-        default:
-            break;
-    }
+void SquareInBands(Limb* result, const Limb* a, std::size_t count) noexcept {
     result[0] = 0;
     AddBand<Into::kFresh>(result, a, count);
     std::size_t row = kBandRows;
     for (; count - row >= 2 * kBandRows; row += kBandRows) {
         AddBand<Into::kSum>(result + 2 * row, a + row, count - row);
     }
-    AddLastTriangle(result + 2 * row, a + row, count - row);
+    kLastTriangle[count - row - kBandRows](result + 2 * row, a + row);
     result[2 * count - 1] = 0;
 
     Doubling doubling;
@@ -158,6 +134,13 @@ void SquareBasecase(Limb* result, const Limb* a, std::size_t count) noexcept {
     }
     for (; i < count; ++i)
         doubling.AddSquares<1>(result + 2 * i, a + i);
+}
+
+}  // namespace
+
+void SquareBasecase(Limb* result, const Limb* a, std::size_t count) noexcept {
+    if (count <= std::size(kSquareFixed)) return kSquareFixed[count - 1](result, a);
+    SquareInBands(result, a, count);
 }
 
 }  // namespace tarn

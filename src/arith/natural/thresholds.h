@@ -22,8 +22,8 @@ inline constexpr std::size_t kSquareNttThreshold = 1700;
 
 // bench/tune_multiply: the low half of a product; from the second figure on the full product is no
 // slower.
-inline constexpr std::size_t kMuldersThreshold = 60;
-inline constexpr std::size_t kLowByFullThreshold = 1900;
+inline constexpr std::size_t kMuldersThreshold = 45;
+inline constexpr std::size_t kLowByFullThreshold = 2000;
 
 // bench/tune_divide: limbs of the shorter of divisor and quotient, for halving both and for division
 // by a reciprocal; limbs up to which the reciprocal itself comes from a division.
