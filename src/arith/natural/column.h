@@ -17,8 +17,10 @@ class ColumnSum {
         low_ += product;
         high_ += low_ < product ? 1U : 0U;
     }
-    // Only in front of the column's products: what came from the column before is far below 2^127.
-    void AddLimb(Limb a) noexcept { low_ += a; }
+    void AddLimb(Limb a) noexcept {
+        low_ += a;
+        high_ += low_ < a ? 1U : 0U;
+    }
     void Double() noexcept {
         high_ = (high_ << 1) | (HighLimb(low_) >> (kLimbBits - 1));
         low_ <<= 1;

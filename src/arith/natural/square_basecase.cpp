@@ -56,8 +56,8 @@ inline void AddBand(Limb* result, const Limb* a, std::size_t count) noexcept {
     Limb* to = result + kHead;
     const Limb* const end = a + count;
     for (const Limb* last = a + kHead; last != end; ++last, ++to) {
-        if constexpr (kInto == Into::kSum) sum.AddLimb(*to);
         Unroll<kBandRows>([&](auto row) { sum.AddProduct(*(last - row), a[row]); });
+        if constexpr (kInto == Into::kSum) sum.AddLimb(*to);
         *to = sum.Take();
     }
     Unroll<kBandRows>([&](auto step) {
