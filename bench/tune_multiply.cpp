@@ -1,7 +1,7 @@
 // Measures each product algorithm on both sides of its threshold (src/arith/natural/thresholds.h)
 // against the next one and against GMP. A row is one algorithm at one count; the counter `gmp` is
-// its time over that of mpn_mul or mpn_sqr on the same values, measured in the same row. Rows called
-// long multiply by an operand four times as long.
+// its time over that of mpn_mul or mpn_sqr on the same values, measured in the same row. Rows
+// called long multiply by an operand four times as long.
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>

@@ -199,8 +199,8 @@ TEST(NaturalMultiply, UnbalancedEqualsGmp) {
     }
 }
 
-// Transforms of one, three and five rows, with an even and with an odd number of levels, beyond what
-// they do level by level; and the pieces of long operands.
+// Transforms of one, three and five rows, with an even and with an odd number of levels, beyond
+// what they do level by level; and the pieces of long operands.
 TEST(NaturalMultiply, WideEqualsGmp) {
     Generator generator(13);
     const std::pair<std::size_t, std::size_t> shapes[] = {

@@ -2,7 +2,7 @@
 
 #include "arith/natural/column.h"
 #include "arith/natural/multiply_internal.h"
-#include "arith/natural/span.h"
+#include "arith/natural/unroll.h"
 
 namespace tarn {
 namespace {

@@ -10,6 +10,10 @@
 namespace tarn {
 namespace {
 
+static_assert(kKaratsubaMinimum <= kKaratsubaThreshold);
+static_assert(kKaratsubaThreshold <= kSquareKaratsubaThreshold, "what needs no scratch");
+static_assert(kToom3Minimum <= std::min(kToom3Threshold, kSquareToom3Threshold));
+
 enum class Algorithm { kBasecase, kKaratsuba, kToom3, kNtt };
 
 Algorithm AlgorithmForProduct(std::size_t count) noexcept {

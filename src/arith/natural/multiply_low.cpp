@@ -8,8 +8,8 @@
 namespace tarn {
 namespace {
 
-// The limbs of the full product in Mulders' scheme. Seven tenths are near the best for the exponents
-// between Karatsuba's and Toom's.
+// The limbs of the full product in Mulders' scheme. Seven tenths are near the best for the
+// exponents between Karatsuba's and Toom's.
 constexpr std::size_t FullPart(std::size_t count) noexcept {
     return count - count * 3 / 10;
 }

@@ -1,5 +1,6 @@
-// Products by convolution: the operands are cut into coefficients of 48 to 60 bits, the coefficients
-// of the product are computed modulo two primes and put together by the Chinese remainder theorem.
+// Products by convolution: the operands are cut into coefficients of 48 to 60 bits, the
+// coefficients of the product are computed modulo two primes and put together by the Chinese
+// remainder theorem.
 #include <algorithm>
 #include <bit>
 

@@ -31,7 +31,7 @@ inline constexpr int kRootLevels = 32;
 
 class NttPrime {
   public:
-    // p - 1 is a multiple of 2^32, of 3 and of 5; 4/5 of 2^62 < p < 2^62, so that four times p fits a limb.
+    // p - 1 is a multiple of 2^32, of 3 and of 5; 4/5 of 2^62 < p < 2^62, so that 4 p fits a limb.
     constexpr explicit NttPrime(Limb modulus) noexcept
         : p(modulus), twice(2 * modulus), reciprocal_(ReciprocalOf(modulus)) {
         Limb inverse = 1;
@@ -74,8 +74,8 @@ class NttPrime {
         const Limb multiple = LowLimb(product) * inverse_;
         return HighLimb(product) - HighLimb(MultiplyLimbs(multiple, p)) + p;
     }
-    // From [0, 4p) to [0, 2p), and from [0, 2p) to [0, p). A difference below 0 wraps to the greater
-    // of the two; compilers turn the minimum into a conditional move, never into a branch.
+    // From [0, 4p) to [0, 2p), and from [0, 2p) to [0, p). A difference below 0 wraps to the
+    // greater of the two; compilers turn the minimum into a conditional move, never into a branch.
     constexpr Limb Halve(Limb a) const noexcept { return std::min(a, a - twice); }
     constexpr Limb Reduce(Limb a) const noexcept { return std::min(a, a - p); }
 

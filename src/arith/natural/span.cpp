@@ -25,8 +25,8 @@ constexpr std::size_t kAddBlock = 8;
 constexpr std::size_t kProductBlock = 4;
 
 // addend + a * factor + carry, whose high limb becomes the carry. The sum is below 2^128, since
-// (2^64 - 1)^2 + 2 (2^64 - 1) = 2^128 - 1. The addend enters first: the chain from carry to carry is
-// then one addition long.
+// (2^64 - 1)^2 + 2 (2^64 - 1) = 2^128 - 1. The addend enters first: the chain from carry to carry
+// is then one addition long.
 inline Limb AddProductStep(Limb addend, Limb a, Limb factor, Limb* carry) noexcept {
     const DoubleLimb product = MultiplyLimbs(a, factor);
     Limb low = LowLimb(product);

@@ -1,6 +1,6 @@
-// A. L. Toom (1963) in three parts, evaluated at 0, 1, -1, 2 and infinity; the interpolation follows
-// M. Bodrato and A. Zanoni, "Integer and polynomial multiplication" (2007), ordered so that no value
-// but the product at -1 is ever negative.
+// A. L. Toom (1963) in three parts, evaluated at 0, 1, -1, 2 and infinity; the interpolation
+// follows M. Bodrato and A. Zanoni, "Integer and polynomial multiplication" (2007), ordered so that
+// no value but the product at -1 is ever negative.
 #include <algorithm>
 
 #include "arith/natural/multiply_internal.h"
@@ -49,8 +49,8 @@ void EvaluateAtTwo(Limb* atTwo, const Parts& a) noexcept {
 }
 
 // a[0 .. count) /= 3, which leaves no remainder. With B = 2^64 and m = (B - 1) / 3, division by 3
-// from below is q = m c - m a mod B, c the borrow of 0 to 2. If the low half of m a is taken off m c
-// with a borrow, the next m c is exactly q less that borrow less the high half of m a.
+// from below is q = m c - m a mod B, c the borrow of 0 to 2. If the low half of m a is taken off m
+// c with a borrow, the next m c is exactly q less that borrow less the high half of m a.
 void DivideExactlyByThree(Limb* a, std::size_t count) noexcept {
     constexpr Limb kThird = ~Limb{0} / 3;
     Limb carried = 0;

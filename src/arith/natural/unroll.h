@@ -13,8 +13,8 @@ template <class Step, std::size_t... kIndex>
     (step(std::integral_constant<std::size_t, kIndex>{}), ...);
 }
 
-// Calls step with 0, 1 .. kCount - 1 as constants: a loop that is unrolled in every build. Inlining is
-// forced, since what the step captures would otherwise pass through memory.
+// Calls step with 0, 1 .. kCount - 1 as constants: a loop that is unrolled in every build. Inlining
+// is forced, since what the step captures would otherwise pass through memory.
 template <std::size_t kCount, class Step>
 [[gnu::always_inline]] inline void Unroll(Step&& step) noexcept {
     UnrollOver(step, std::make_index_sequence<kCount>{});
