@@ -58,8 +58,8 @@ inline void NttTransform::ForwardStep(Limb* x, std::size_t stride,
 inline void NttTransform::InverseStep(Limb* x, std::size_t stride,
                                       std::size_t block) const noexcept {
     const NttPrime& prime = prime_;
-    // The constant of a block b > 0 with top bit 2^k is half a turn times an odd multiple of 2^-(k
-    // + 1) below 1. Flipping the bits of b under the top one takes that multiple from 1, which
+    // The constant of a block b > 0 with top bit 2^k turns by half a turn times an odd multiple of
+    // 1 / 2^(k + 1). Flipping the bits of b under the top one takes that multiple from 1, which
     // gives minus the inverse.
     const bool isFirst = block == 0;
     const std::size_t mirror = isFirst ? 0 : block ^ (std::bit_floor(block) - 1);

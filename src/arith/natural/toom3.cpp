@@ -49,8 +49,8 @@ void EvaluateAtTwo(Limb* atTwo, const Parts& a) noexcept {
 }
 
 // a[0 .. count) /= 3, which leaves no remainder. With B = 2^64 and m = (B - 1) / 3, division by 3
-// from below is q = m c - m a mod B, c the borrow of 0 to 2. If the low half of m a is taken off m
-// c with a borrow, the next m c is exactly q less that borrow less the high half of m a.
+// from below is q = m c - m a mod B, c the borrow of 0 to 2. If the low half of m a is taken
+// off m c with a borrow, the next m c is exactly q less that borrow less the high half of m a.
 void DivideExactlyByThree(Limb* a, std::size_t count) noexcept {
     constexpr Limb kThird = ~Limb{0} / 3;
     Limb carried = 0;
