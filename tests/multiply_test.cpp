@@ -60,7 +60,7 @@ template <Extension baseExtension>
 Vec SPower(int width, const Vec& base, const Vec& exponent) {
     if (HasUnknown(base) || HasUnknown(exponent)) return AllX(width);
     const mpz_class shifted =
-        ToInteger(exponent) >> static_cast<unsigned>(std::max(exponent.width - 1, 0));
+        ToInteger(exponent) >> static_cast<unsigned>(std::max(exponent.width, 1) - 1);
     if (exponent.width < 1 || shifted == 0) return UPower<baseExtension>(width, base, exponent);
     const mpz_class value = Value(base, baseExtension);
     if (value == 0) return AllX(width);
