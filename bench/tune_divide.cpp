@@ -1,7 +1,7 @@
 // Measures division and decimal conversion of naturals: each algorithm on both sides of its
 // threshold (src/arith/natural/thresholds.h), and the whole over all widths, against GMP. A row is
 // one algorithm at one count; `gmp` is its time over that of mpn_tdiv_qr, mpn_set_str or
-// mpn_get_str on the same values, `doubling` its time at twice the count over its time at the count.
+// mpn_get_str on the same values, `doubling` its time at twice the count over that at the count.
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>

@@ -198,6 +198,25 @@ TEST(NaturalToDecimal, RoundTripsOfRunsAndWideValues) {
         ASSERT_NO_FATAL_FAILURE(CheckFormat(generator.Take(count, Kind::kOnes), kAny));
 }
 
+// The most digits of 20,000,000 bits, there and back.
+TEST(NaturalRadix, RoundTripAtTheLimit) {
+    Generator generator(5);
+    Digits digits = TakeDigits(generator, 6'020'599, DigitKind::kRuns);
+    digits[0] = 3;
+    Guarded limbs(FromDecimalLimbs(digits.size())), scratch(FromDecimalScratch(digits.size()));
+    const std::size_t count =
+        FromDecimal(limbs.Data(), digits.data(), digits.size(), scratch.Data());
+    ASSERT_EQ(count, 312'500U);
+    Guarded textScratch(ToDecimalScratch(count));
+    std::string text(digits.size(), ' ');
+    ASSERT_EQ(ToDecimal(text.data() + text.size(), limbs.Data(), count, textScratch.Data()),
+              text.data());
+    for (std::uint8_t& digit : digits)
+        digit = static_cast<std::uint8_t>(digit + '0');
+    EXPECT_TRUE(std::equal(text.begin(), text.end(), digits.begin()));
+    EXPECT_TRUE(limbs.IsIntact() && scratch.IsIntact() && textScratch.IsIntact());
+}
+
 TEST(NaturalRadix, ScratchIsASmallMultipleAndGrowsWithTheCount) {
     EXPECT_LT(FromDecimalScratch(6'020'600), 12 * std::size_t{312500});
     EXPECT_LT(ToDecimalScratch(312500), 12 * std::size_t{312500});

@@ -110,7 +110,7 @@ TARNLIB_API void tarn_UnsignedMul(int resultWidth, VectorWord* result, int aWidt
  *  writes    exactly N(resultWidth) words; none for a width below 1.
  *  aliasing  result may be a or b itself; partly overlapping storage is not supported.
  *  scratch   tarn_VectorRegister is the function's own during the call; no operand may lie in it.
- *  limits    10,000,000 bits for dividend, divisor and result; not checked.
+ *  limits    10,000,000 bits for dividend and result, 40,000,000 for the divisor; not checked.
  *  source    IEEE 1364-2005, 5.1.5
  *  example   -7 / 2 is -3 and -7 % 2 is -1; 7 % -2 is 1. */
 TARNLIB_API void tarn_SignedDiv(int resultWidth, VectorWord* result, int aWidth,

@@ -23,7 +23,7 @@
     TARN_REQUIRE_TWO_OPERANDS(resultWidth, result, aWidth, a, bWidth, b); \
     TARN_REQUIRE(resultWidth <= kMaxQuotientWidth);                       \
     TARN_REQUIRE(aWidth <= kMaxQuotientWidth);                            \
-    TARN_REQUIRE(bWidth <= kMaxQuotientWidth);                            \
+    TARN_REQUIRE(bWidth <= kMaxDivisorWidth);                             \
     TARN_REQUIRE(IsOutsideRegister(aWidth, a));                           \
     TARN_REQUIRE(IsOutsideRegister(bWidth, b))
 

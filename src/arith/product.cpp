@@ -5,6 +5,7 @@
 
 #include "arith/natural/multiply.h"
 #include "arith/natural/multiply_internal.h"
+#include "arith/natural/product_scratch.h"
 #include "arith/natural/span.h"
 #include "arith/scratch.h"
 #include "arith/short.h"
@@ -103,7 +104,7 @@ std::size_t LowProduct(Limb* product, Whole a, Whole b, std::size_t limit, Limb*
 std::size_t LowProductScratch(std::size_t aCount, std::size_t bCount, std::size_t limit) noexcept {
     const std::size_t longer = std::clamp<std::size_t>(std::max(aCount, bCount), 1, limit);
     const std::size_t shorter = std::clamp<std::size_t>(std::min(aCount, bCount), 1, limit);
-    std::size_t most = std::max(MultiplyScratch(longer, shorter), SquareScratch(longer));
+    std::size_t most = std::max(ProductScratch(longer + shorter), SquareScratch(longer));
     if (NearlyFills(shorter, limit)) {
         most = std::max(most, 2 * limit + MultiplyLowScratch(limit));
     }

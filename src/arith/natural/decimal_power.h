@@ -15,8 +15,8 @@ namespace tarn {
 inline constexpr std::size_t kChunkDigits = 19;
 inline constexpr Limb kChunkPower = 10'000'000'000'000'000'000U;
 
-// 10^(19 * chunks) * 2^shift = limbs[0 .. count) * 2^(64 * zeros). Nearly a third of a power of ten is
-// trailing zero bits; leaving the whole limbs of them out shortens every product and division.
+// 10^(19 * chunks) * 2^shift = limbs[0 .. count) * 2^(64 * zeros). Nearly a third of a power of ten
+// is trailing zero bits; leaving the whole limbs of them out shortens every product and division.
 struct DecimalPower {
     Limb* limbs;
     std::size_t count;
@@ -34,7 +34,8 @@ class DecimalPowers {
     // only while they are built.
     DecimalPowers(std::size_t chunks, Limb* storage, Limb* scratch) noexcept;
 
-    // Shifts each power until its top bit is set, as a divisor's must be; until then each shift is 0.
+    // Shifts each power until its top bit is set, as a divisor's must be; till then no power is
+    // shifted.
     void Normalise() noexcept;
 
     static std::size_t StorageLimbs(std::size_t chunks) noexcept;
@@ -43,7 +44,7 @@ class DecimalPowers {
     // No less than the limbs of 10^(19 * chunks) without its zero limbs.
     static constexpr std::size_t MostLimbs(std::size_t chunks) noexcept {
         // A chunk brings log2(10^19) - 19 < 44.12 bits, and less than 64 zero bits stay.
-        return (chunks * 353 / 8 + 2 * kLimbBits) / kLimbBits + 1;
+        return (chunks * 353 / 8 + 2 * std::size_t{kLimbBits}) / kLimbBits + 1;
     }
 
     // The last power has one chunk; numbers of fewer than two chunks need none.

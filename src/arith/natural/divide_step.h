@@ -22,8 +22,8 @@ struct LimbDivisor {
           reciprocal(LowLimb(MakeDoubleLimb(~normalised, ~Limb{0}) / normalised)) {}
 
     // Returns the quotient of (remainder, next) for remainder < divisor, and leaves the new
-    // remainder. The candidate is one too great or right, rarely one too small; comparing the
-    // remainder with the fraction that the estimate dropped tells which (theorem 3).
+    // remainder (algorithm 4). The candidate is right or one too great, rarely one too small; the
+    // fraction that the estimate dropped tells the first two apart.
     constexpr Limb Step(Limb* remainder, Limb next) const noexcept {
         const DoubleLimb product = MultiplyLimbs(reciprocal, *remainder);
         const Limb fraction = LowLimb(product) + next;
@@ -47,7 +47,7 @@ struct TopDivisor {
     DoubleLimb top;
     Limb reciprocal;
 
-    // Algorithm 6: the reciprocal of the upper limb, taken down for what the lower limb adds.
+    // The reciprocal of the upper limb, taken down for what the lower limb adds (algorithm 6).
     constexpr TopDivisor(Limb high, Limb low) noexcept
         : top(MakeDoubleLimb(high, low)), reciprocal(LimbDivisor(high).reciprocal) {
         Limb product = high * reciprocal + low;
@@ -67,7 +67,7 @@ struct TopDivisor {
         }
     }
 
-    // Algorithm 4, with the remainder below the top: quotient of (remainder, next).
+    // The same for a remainder of two limbs, below the top (algorithm 5).
     constexpr Limb Step(DoubleLimb* remainder, Limb next) const noexcept {
         const DoubleLimb estimate = MultiplyLimbs(reciprocal, HighLimb(*remainder)) + *remainder;
         Limb quotient = HighLimb(estimate);

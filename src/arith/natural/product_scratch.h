@@ -14,8 +14,9 @@ namespace tarn {
 // No less than MultiplyScratch of any two counts with a sum up to `total`. That function does not
 // grow with its operands everywhere. What a long operand leaves over when it is cut into pieces of
 // the short one may need more than a piece; three times the shorter count pays for all leftovers
-// together, for they shrink like the remainders in Euclid's algorithm. And an unbalanced product may
-// go by transforms where a balanced one of the same total does not; theirs depends on the total.
+// together, for they shrink like the remainders in Euclid's algorithm. And an unbalanced product
+// may go by transforms where a balanced one of the same total does not; their need depends on the
+// total.
 inline std::size_t ProductScratch(std::size_t total) noexcept {
     const std::size_t half = std::max<std::size_t>(1, (total + 1) / 2);
     const std::size_t forPieces = 3 * half + MultiplyScratch(half, half);

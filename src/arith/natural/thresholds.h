@@ -25,8 +25,8 @@ inline constexpr std::size_t kSquareNttThreshold = 1700;
 inline constexpr std::size_t kMuldersThreshold = 45;
 inline constexpr std::size_t kLowByFullThreshold = 2000;
 
-// bench/tune_divide: limbs of the shorter of divisor and quotient, for halving both and for division
-// by a reciprocal; limbs up to which the reciprocal itself comes from a division.
+// bench/tune_divide: limbs of the shorter of divisor and quotient, for halving both and for
+// division by a reciprocal; limbs up to which the reciprocal itself comes from a division.
 inline constexpr std::size_t kDivideHalvesLimbs = 18;
 inline constexpr std::size_t kDivideReciprocalLimbs = 3500;
 inline constexpr std::size_t kReciprocalLeafLimbs = 500;
