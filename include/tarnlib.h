@@ -24,8 +24,8 @@
  *  aliasing, scratch, limits, source, example; those that don't apply are left out. What a comment
  *  requires of the caller is not tested, except in a build configured with TARNLIB_CHECKED, which
  *  names the broken duty on the standard error output and aborts. Where a comment says what becomes
- *  of an argument outside its range, such as a width below 1 where at least 1 is required, that holds
- *  in the normal build; the checked build reports it.
+ *  of an argument outside its range, such as a width below 1 where at least 1 is required, that
+ *  holds in the normal build; the checked build reports it.
  *
  *  Family headers: tarnlib/vector.h (the vector, copies and conversions, exported data),
  *  tarnlib/arith.h, tarnlib/select.h, tarnlib/text.h. Each can be included on its own. */

@@ -21,8 +21,8 @@ std::uint64_t LoadEight(const char* characters) noexcept {
     return eight ^ 0x3030303030303030;
 }
 
-// Whether one of eight such bytes is above 9. The addition carries a byte of 10 to 0x7f into bit 7; a
-// higher one has that bit, and only such a byte can carry into the next.
+// Whether one of eight such bytes is above 9. The addition carries a byte of 10 to 0x7f into bit 7;
+// a higher one has that bit, and only such a byte can carry into the next.
 constexpr bool HasOther(std::uint64_t eight) noexcept {
     return (((eight + 0x7676767676767676) | eight) & 0x8080808080808080) != 0;
 }

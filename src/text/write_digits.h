@@ -135,8 +135,8 @@ inline void WriteMixedHexBlock(char* end, const VectorWord* words) noexcept {
     StoreBytes(end - 16, HexCharacters(aval.lower, bval.lower));
 }
 
-// The digits of kBlocks blocks, with one unknown test for all of them. Mixed ones are written out of
-// line: the registers that they need would have to be saved for known ones too.
+// The digits of kBlocks blocks, with one unknown test for all of them. Mixed ones are written out
+// of line: the registers that they need would have to be saved for known ones too.
 template <std::size_t kBlocks>
 [[gnu::noinline]] void WriteMixedHexBlocks(char* end, const VectorWord* words) noexcept {
     for (std::size_t i = 0; i < kBlocks; ++i) {

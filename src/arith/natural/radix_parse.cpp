@@ -116,7 +116,8 @@ std::size_t ParseByHalvesScratch(std::size_t digitCount, std::size_t leafChunks)
 }
 
 std::size_t FromDecimalLimbs(std::size_t digitCount) noexcept {
-    // 10^n < 2^(3n + fraction * n + 1); the fraction of log2(10) as a multiple of 2^-64, rounded up.
+    // 10^n < 2^(3n + fraction * n + 1); the fraction of log2(10) as a multiple of 2^-64, rounded
+    // up.
     constexpr Limb kFraction = 0x5269'E12F'346E'2BFAU;
     const Limb bits = 3 * Limb{digitCount} + HighLimb(MultiplyLimbs(digitCount, kFraction)) + 1;
     return static_cast<std::size_t>((bits + kLimbBits - 1) / kLimbBits);

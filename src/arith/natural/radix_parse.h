@@ -10,8 +10,8 @@
 namespace tarn {
 
 // The value of eight digits, one a byte and the first in the lowest, after Johnny Lee and Daniel
-// Lemire: each multiplication adds neighbouring fields, the earlier (lower) one weighted by the power
-// of ten that the later one spans. With digits a b c ... from the lowest byte upwards:
+// Lemire: each multiplication adds neighbouring fields, the earlier (lower) one weighted by the
+// power of ten that the later one spans. With digits a b c ... from the lowest byte upwards:
 //   bytes      a, b, c, d ...      times 10 * 2^8 + 1:      10a + b in every second byte
 //   16-bit     ab, cd ...          times 100 * 2^16 + 1:    100ab + cd in every second field
 //   32-bit     abcd, efgh          times 10000 * 2^32 + 1:  10000abcd + efgh in the upper half
