@@ -6,26 +6,50 @@
 
 namespace tarn {
 
+namespace {
+
+// kPairs limbs from twice as many words; returns the words' bits, of which the upper ones must be 0
+// for the limbs to be right.
+template <std::size_t kPairs>
+inline Word PackPairs(Limb* limbs, const VectorWord* words) noexcept {
+    Word seen = 0;
+    for (std::size_t i = 0; i < kPairs; ++i) {
+        seen |= LoadWord(words + 2 * i) | LoadWord(words + 2 * i + 1);
+        limbs[i] = PackKnownWords(words + 2 * i);
+    }
+    return seen;
+}
+
+}  // namespace
+
 bool PackKnown(Limb* limbs, const VectorWord* words, std::size_t count) noexcept {
-    // A block without a branch, then one test: an early unknown bit ends a long run soon.
-    constexpr std::size_t kBlock = 64;
-    const std::size_t pairs = count / 2;
-    for (std::size_t first = 0; first < pairs; first += kBlock) {
-        const std::size_t last = std::min(first + kBlock, pairs);
-        Word seen = 0;
-        for (std::size_t i = first; i < last; ++i) {
-            const Word low = LoadWord(words + 2 * i), high = LoadWord(words + 2 * i + 1);
-            seen |= low | high;
-            limbs[i] = PackWords(low, high);
-        }
-        if (IsUnknown(seen)) return false;
+    // One test a block: an early unknown bit ends a long run soon.
+    constexpr std::size_t kBlock = 8;
+    for (; count >= 2 * kBlock; count -= 2 * kBlock, words += 2 * kBlock, limbs += kBlock) {
+        if (IsUnknown(PackPairs<kBlock>(limbs, words))) return false;
     }
-    if (count % 2 != 0) {
-        const Word top = LoadWord(words + count - 1);
-        limbs[pairs] = top;
-        return !IsUnknown(top);
+    Word seen = 0;
+    if ((count & 8U) != 0) {
+        seen |= PackPairs<4>(limbs, words);
+        words += 8;
+        limbs += 4;
     }
-    return true;
+    if ((count & 4U) != 0) {
+        seen |= PackPairs<2>(limbs, words);
+        words += 4;
+        limbs += 2;
+    }
+    if ((count & 2U) != 0) {
+        seen |= PackPairs<1>(limbs, words);
+        words += 2;
+        limbs += 1;
+    }
+    if ((count & 1U) != 0) {
+        const Word top = LoadWord(words);
+        seen |= top;
+        *limbs = top & kValueBits;
+    }
+    return !IsUnknown(seen);
 }
 
 void NegateLimbs(Limb* limbs, std::size_t wordCount) noexcept {
@@ -56,22 +80,22 @@ template bool PackWhole<SignExtend>(Whole*, Limb*, Operand, std::size_t) noexcep
 template bool PackWhole<ZeroExtend>(Whole*, Limb*, Operand, std::size_t) noexcept;
 
 void StoreWhole(Result result, Whole value) noexcept {
+    // A value of 0 has no limbs and no sign.
+    const bool isNegative = value.negative && value.count > 0;
+    if (isNegative) {
+        NegateLimbs(value.limbs, 2 * value.count);
+    }
     const std::size_t count = result.Count();
     const std::size_t limbs = std::min(value.count, count / 2);
-    // A negative value is ~limbs + 1, and all ones above; an empty one is 0 whatever its sign says.
-    const Limb invert = value.negative && value.count > 0 ? ~Limb{0} : Limb{0};
-    CarryFlag carry = invert != 0 ? 1 : 0;
     for (std::size_t i = 0; i < limbs; ++i) {
-        Limb limb = 0;
-        carry = AddWithCarry(carry, value.limbs[i] ^ invert, 0, &limb);
-        StoreLimb(result.words + 2 * i, limb);
+        StoreLimb(result.words + 2 * i, value.limbs[i]);
     }
     std::size_t stored = 2 * limbs;
     if (stored < count && limbs < value.count) {
-        StoreWord(result.words + stored, ((value.limbs[limbs] ^ invert) + carry) & kValueBits);
+        StoreWord(result.words + stored, value.limbs[limbs] & kValueBits);
         ++stored;
     }
-    FillWords(result.words + stored, count - stored, invert & kValueBits);
+    FillWords(result.words + stored, count - stored, isNegative ? kValueBits : 0);
 }
 
 }  // namespace tarn

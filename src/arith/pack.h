@@ -15,6 +15,13 @@ constexpr Limb PackWords(Word low, Word high) noexcept {
     return (low & kValueBits) | (high << kWordBits);
 }
 
+// Two known words: what lies between their avals in memory is a bval of 0.
+inline Limb PackKnownWords(const VectorWord* words) noexcept {
+    Limb upper;
+    std::memcpy(&upper, &words[0].bval, sizeof upper);
+    return upper | words[0].aval;
+}
+
 inline void StoreLimb(VectorWord* to, Limb limb) noexcept {
     StoreWord(to, limb & kValueBits);
     StoreWord(to + 1, limb >> kWordBits);
@@ -40,7 +47,8 @@ struct Whole {
 template <class Extend>
 bool PackWhole(Whole* whole, Limb* limbs, Operand operand, std::size_t wordCount) noexcept;
 
-// result = value, continued above its limbs by its sign and cut where the result ends.
+// result = value, continued above its limbs by its sign and cut where the result ends. The limbs of a
+// negative value are destroyed.
 void StoreWhole(Result result, Whole value) noexcept;
 
 }  // namespace tarn

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "core/word.h"
+#include "arith/pack.h"
 #include "text/byte_vector.h"
 #include "text/digits.h"
 
@@ -101,9 +101,6 @@ inline Bytes HexCharacters(Bytes aval, Bytes bval) noexcept {
 }
 static_assert(('X' | ('x' - 'X')) == 'x' && ('Z' | ('x' - 'X')) == 'z');
 
-inline std::uint64_t JoinAvals(Word low, Word high) noexcept {
-    return (low & kValueBits) | (high << kWordBits);
-}
 inline std::uint64_t JoinBvals(Word low, Word high) noexcept {
     return (low >> kWordBits) | (high & kUnknownBits);
 }
@@ -111,16 +108,9 @@ inline std::uint64_t JoinBvals(Word low, Word high) noexcept {
 inline constexpr std::size_t kHexBlockWords = 4;
 inline constexpr std::size_t kHexBlockDigits = 8 * kHexBlockWords;
 
-// The avals of two known words: what lies between them in memory is a bval of 0.
-inline std::uint64_t JoinKnown(const VectorWord* words) noexcept {
-    std::uint64_t upper;
-    std::memcpy(&upper, &words[0].bval, sizeof upper);
-    return upper | words[0].aval;
-}
-
 // The 32 digits of four known words in front of end.
 inline void WriteKnownHexBlock(char* end, const VectorWord* words) noexcept {
-    const HexDigits aval = SpreadNibbles(JoinKnown(words), JoinKnown(words + 2));
+    const HexDigits aval = SpreadNibbles(PackKnownWords(words), PackKnownWords(words + 2));
     StoreBytes(end - 32, KnownHexCharacters(aval.upper));
     StoreBytes(end - 16, KnownHexCharacters(aval.lower));
 }
@@ -129,7 +119,7 @@ inline void WriteKnownHexBlock(char* end, const VectorWord* words) noexcept {
 inline void WriteMixedHexBlock(char* end, const VectorWord* words) noexcept {
     const Word w0 = LoadWord(words), w1 = LoadWord(words + 1);
     const Word w2 = LoadWord(words + 2), w3 = LoadWord(words + 3);
-    const HexDigits aval = SpreadNibbles(JoinAvals(w0, w1), JoinAvals(w2, w3));
+    const HexDigits aval = SpreadNibbles(PackWords(w0, w1), PackWords(w2, w3));
     const HexDigits bval = SpreadNibbles(JoinBvals(w0, w1), JoinBvals(w2, w3));
     StoreBytes(end - 32, HexCharacters(aval.upper, bval.upper));
     StoreBytes(end - 16, HexCharacters(aval.lower, bval.lower));
@@ -193,8 +183,8 @@ inline char* WriteDigits(Octal, char* end, const VectorWord* words,
     std::size_t left = digitCount;
     for (; left >= 2 * kRun; left -= 2 * kRun, words += 3) {
         const Word low = LoadWord(words), middle = LoadWord(words + 1), high = LoadWord(words + 2);
-        end = WriteSingleDigits<Octal>(end, JoinAvals(low, middle), JoinBvals(low, middle), kRun);
-        end = WriteSingleDigits<Octal>(end, JoinAvals(middle, high) >> 16,
+        end = WriteSingleDigits<Octal>(end, PackWords(low, middle), JoinBvals(low, middle), kRun);
+        end = WriteSingleDigits<Octal>(end, PackWords(middle, high) >> 16,
                                        JoinBvals(middle, high) >> 16, kRun);
     }
     std::size_t bit = 0;
@@ -203,7 +193,7 @@ inline char* WriteDigits(Octal, char* end, const VectorWord* words,
         const unsigned offset = bit % kWordBits;
         const Word low = LoadWord(from);
         const Word high = offset > kWordBits - Octal::kBits ? LoadWord(from + 1) : Word{0};
-        end = WriteSingleDigits<Octal>(end, JoinAvals(low, high) >> offset,
+        end = WriteSingleDigits<Octal>(end, PackWords(low, high) >> offset,
                                        JoinBvals(low, high) >> offset, 1);
     }
     return end;

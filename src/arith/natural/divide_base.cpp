@@ -42,6 +42,25 @@ DoubleLimb DivideByTwoLimbs(Limb* quotient, const Limb* a, std::size_t count, Li
     return remainder >> shift;
 }
 
+namespace {
+
+// Below this many limbs a call costs as much as the work.
+constexpr std::size_t kInlineLimbs = 6;
+
+inline Limb SubtractShortProduct(Limb* result, const Limb* a, std::size_t count,
+                                 Limb factor) noexcept {
+    Limb carry = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const DoubleLimb product = MultiplyLimbs(a[i], factor) + carry;
+        const Limb minuend = result[i];
+        result[i] = minuend - LowLimb(product);
+        carry = HighLimb(product) + (minuend < LowLimb(product) ? 1U : 0U);
+    }
+    return carry;
+}
+
+}  // namespace
+
 Limb DivideSchoolbook(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d,
                       std::size_t dCount, const TopDivisor& top) noexcept {
     Limb* window = a + (aCount - dCount);
@@ -62,7 +81,8 @@ Limb DivideSchoolbook(Limb* quotient, Limb* a, std::size_t aCount, const Limb* d
             continue;
         }
         Limb limb = top.Step(&leading, window[rest]);
-        const Limb borrow = SubtractProduct(window, d, rest, limb);
+        const Limb borrow = rest < kInlineLimbs ? SubtractShortProduct(window, d, rest, limb)
+                                                : SubtractProduct(window, d, rest, limb);
         const bool tooGreat = leading < borrow;
         leading -= borrow;
         if (tooGreat) [[unlikely]] {
