@@ -79,7 +79,7 @@ bool PackWhole(Whole* whole, Limb* limbs, Operand operand, std::size_t wordCount
 template bool PackWhole<SignExtend>(Whole*, Limb*, Operand, std::size_t) noexcept;
 template bool PackWhole<ZeroExtend>(Whole*, Limb*, Operand, std::size_t) noexcept;
 
-void StoreWhole(Result result, Whole value) noexcept {
+void StoreWhole(Result result, const Whole& value) noexcept {
     // A value of 0 has no limbs and no sign.
     const bool isNegative = value.negative && value.count > 0;
     if (isNegative) {

@@ -35,7 +35,8 @@ bool ExponentBit(Operand exponent, std::size_t i) noexcept {
 
 // Whether an even base to the power of the exponent, which has `bits` bits, is 0 modulo
 // 2^resultBits: each factor brings at least one zero bit.
-bool Vanishes(Whole base, Operand exponent, std::size_t bits, std::size_t resultBits) noexcept {
+bool Vanishes(const Whole& base, Operand exponent, std::size_t bits,
+              std::size_t resultBits) noexcept {
     if ((base.limbs[0] & 1U) != 0) return false;
     constexpr std::size_t kEnough = 32;
     if (bits > kEnough) return true;
@@ -47,13 +48,13 @@ bool Vanishes(Whole base, Operand exponent, std::size_t bits, std::size_t result
 
 // base ** exponent modulo 2^(64 * limit) by squaring and multiplying from the exponent's top bit
 // down, so that a short base stays a short factor; bits is at least 1.
-Whole PowerOfWhole(Whole base, Operand exponent, std::size_t bits, std::size_t limit,
+Whole PowerOfWhole(const Whole& base, Operand exponent, std::size_t bits, std::size_t limit,
                    Scratch* scratch) noexcept {
     Whole power{scratch->Take(2 * limit), base.count, false};
     std::copy(base.limbs, base.limbs + base.count, power.limbs);
     Limb* next = scratch->Take(2 * limit);
     Limb* const temporary = scratch->Take(LowProductScratch(limit, limit, limit));
-    const auto multiplyBy = [&](Whole factor) {
+    const auto multiplyBy = [&](const Whole& factor) {
         power.count = LowProduct(next, power, factor, limit, temporary);
         std::swap(power.limbs, next);
     };

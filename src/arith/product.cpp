@@ -1,7 +1,6 @@
 #include "arith/product.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "arith/natural/multiply.h"
 #include "arith/natural/multiply_internal.h"
@@ -48,11 +47,11 @@ bool NearlyFills(std::size_t count, std::size_t limit) noexcept {
     return 4 * count >= 3 * limit;
 }
 
-// The operand's limbs with zeros up to `count`, copied to `room` where there are any to add.
-const Limb* Padded(Whole whole, std::size_t count, Limb* room) noexcept {
-    if (whole.count == count) return whole.limbs;
-    std::copy(whole.limbs, whole.limbs + whole.count, room);
-    std::fill(room + whole.count, room + count, Limb{0});
+// limbs[0 .. own) with zeros up to `count`, copied to `room` where there are any to add.
+const Limb* Padded(const Limb* limbs, std::size_t own, std::size_t count, Limb* room) noexcept {
+    if (own == count) return limbs;
+    std::copy(limbs, limbs + own, room);
+    std::fill(room + own, room + count, Limb{0});
     return room;
 }
 
@@ -82,23 +81,22 @@ bool MultiplyLong(Result result, Operand a, Operand b) noexcept {
 
 }  // namespace
 
-std::size_t LowProduct(Limb* product, Whole a, Whole b, std::size_t limit, Limb* scratch) noexcept {
-    a.count = std::min(a.count, limit);
-    b.count = std::min(b.count, limit);
-    if (a.count == 0 || b.count == 0) return 0;
-    if (a.count < b.count) {
-        std::swap(a, b);
-    }
-    if (a.limbs == b.limbs && a.count == b.count) {
-        Square(product, a.limbs, a.count, scratch);
-    } else if (NearlyFills(b.count, limit)) {
-        const Limb* const low = Padded(a, limit, scratch);
-        MultiplyLow(product, low, Padded(b, limit, scratch + limit), limit, scratch + 2 * limit);
+std::size_t LowProduct(Limb* product, const Whole& a, const Whole& b, std::size_t limit,
+                       Limb* scratch) noexcept {
+    const std::size_t aCount = std::min(a.count, limit);
+    const std::size_t bCount = std::min(b.count, limit);
+    if (aCount == 0 || bCount == 0) return 0;
+    if (a.limbs == b.limbs && aCount == bCount) {
+        Square(product, a.limbs, aCount, scratch);
+    } else if (NearlyFills(std::min(aCount, bCount), limit)) {
+        const Limb* const aPadded = Padded(a.limbs, aCount, limit, scratch);
+        const Limb* const bPadded = Padded(b.limbs, bCount, limit, scratch + limit);
+        MultiplyLow(product, aPadded, bPadded, limit, scratch + 2 * limit);
         return NormalisedCount(product, limit);
     } else {
-        Multiply(product, a.limbs, a.count, b.limbs, b.count, scratch);
+        Multiply(product, a.limbs, aCount, b.limbs, bCount, scratch);
     }
-    return NormalisedCount(product, std::min(a.count + b.count, limit));
+    return NormalisedCount(product, std::min(aCount + bCount, limit));
 }
 
 std::size_t LowProductScratch(std::size_t aCount, std::size_t bCount, std::size_t limit) noexcept {

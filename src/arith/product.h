@@ -11,7 +11,8 @@ namespace tarn {
 // The low `limit` (at least 1) limbs of the product of two magnitudes, in product, which has room
 // for a.count + b.count limbs and at least limit, and overlaps neither operand. Returns their count
 // without zeros at the top.
-std::size_t LowProduct(Limb* product, Whole a, Whole b, std::size_t limit, Limb* scratch) noexcept;
+std::size_t LowProduct(Limb* product, const Whole& a, const Whole& b, std::size_t limit,
+                       Limb* scratch) noexcept;
 // Enough for any counts up to these.
 std::size_t LowProductScratch(std::size_t aCount, std::size_t bCount, std::size_t limit) noexcept;
 

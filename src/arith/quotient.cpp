@@ -10,7 +10,7 @@ namespace tarn {
 namespace {
 
 template <Wanted kWanted>
-Whole DivideWholes(Whole a, Whole b, Scratch* scratch) noexcept {
+Whole DivideWholes(const Whole& a, const Whole& b, Scratch* scratch) noexcept {
     constexpr bool kRemainder = kWanted == Wanted::kRemainder;
     const bool negative = kRemainder ? a.negative : a.negative != b.negative;
     if (a.count < b.count || (a.count == b.count && Compare(a.limbs, b.limbs, a.count) < 0)) {

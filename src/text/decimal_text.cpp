@@ -58,7 +58,7 @@ Whole TakeValue(Operand value, Limb* limbs) noexcept {
 
 // The words that the digits were taken from are left 0 at the start of the shared register, as
 // plain 32-bit numbers; the value 0 takes all of its words.
-void ClearRegister(Whole value, std::size_t wordCount) noexcept {
+void ClearRegister(const Whole& value, std::size_t wordCount) noexcept {
     std::size_t count = wordCount;
     if (value.count > 0) {
         const bool half = (value.limbs[value.count - 1] >> kWordBits) == 0;

@@ -90,13 +90,13 @@ std::size_t CopyDigitValues(std::uint8_t* values, std::string_view digits) noexc
 }
 
 // Whether a value other than 0 has a bit at `width` or above.
-bool ReachesBit(std::size_t width, Whole value) noexcept {
+bool ReachesBit(std::size_t width, const Whole& value) noexcept {
     const auto top = static_cast<std::size_t>(std::bit_width(value.limbs[value.count - 1]));
     return (value.count - 1) * kLimbBits + top > width;
 }
 
 // Stores the value, of at least one limb but perhaps 0; for 0 there is no verdict.
-Fit StoreValue(Result result, Whole value) noexcept {
+Fit StoreValue(Result result, const Whole& value) noexcept {
     StoreWhole(result, value);
     CleanTopWord(result);
     if (value.limbs[value.count - 1] == 0) return Fit::kUnsettled;
