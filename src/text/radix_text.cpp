@@ -43,19 +43,29 @@ char PartialDigit(Operand value, std::size_t index, unsigned bits) noexcept {
     return DigitCharacter(kMask, a, b);
 }
 
-// All digits of the width and the terminator behind them; returns the first.
+// All digits of the width, the top one of fewer bits than the others. Out of line, so that the
+// frame it needs does not burden whole digits.
 template <class Layout>
-char* WriteAllDigits(char* end, Operand value, std::size_t all) noexcept {
-    const unsigned topBits = (static_cast<unsigned>(value.width) - 1U) % Layout::kBits + 1U;
-    *end = '\0';
-    if (topBits == Layout::kBits) return WriteDigits(Layout{}, end, value.words, all);
+[[gnu::noinline]] char* WriteBelowPartialDigit(char* end, Operand value, std::size_t all,
+                                               unsigned topBits) noexcept {
     char* const first = WriteDigits(Layout{}, end, value.words, all - 1) - 1;
     *first = PartialDigit<Layout>(value, all - 1, topBits);
     return first;
 }
 
+// All digits of the width and the terminator behind them; returns the first.
 template <class Layout>
-char* FormatField(Operand value, std::size_t all, std::size_t field) {
+char* WriteAllDigits(char* end, Operand value, std::size_t all) noexcept {
+    const unsigned topBits = (static_cast<unsigned>(value.width) - 1U) % Layout::kBits + 1U;
+    *end = '\0';
+    if (topBits != Layout::kBits) {
+        return WriteBelowPartialDigit<Layout>(end, value, all, topBits);
+    }
+    return WriteDigits(Layout{}, end, value.words, all);
+}
+
+template <class Layout>
+[[gnu::noinline]] char* FormatField(Operand value, std::size_t all, std::size_t field) {
     char* const begin = globalBuffer.Reserve(std::max(all, field) + 1);
     if (field >= all) {
         std::memset(begin, '0', field - all);

@@ -14,7 +14,7 @@ TextBuffer::~TextBuffer() {
     size_ = 0;
 }
 
-void TextBuffer::Grow(std::uint64_t byteCount) {
+char* TextBuffer::Grow(std::uint64_t byteCount) {
     std::uint64_t newSize = size_ == 0 ? kInitialSize : size_;
     while (newSize < byteCount) {
         newSize *= 2;
@@ -26,6 +26,7 @@ void TextBuffer::Grow(std::uint64_t byteCount) {
     delete[] data_;
     data_ = grown;
     size_ = newSize;
+    return data_;
 }
 
 char* EmptyText() {

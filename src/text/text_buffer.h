@@ -16,12 +16,7 @@ class TextBuffer {
 
     // The start of the buffer, which has room for byteCount bytes from now on. A buffer that is too
     // small doubles until it is large enough and keeps its contents; the old storage is freed.
-    char* Reserve(std::uint64_t byteCount) {
-        if (byteCount > size_) {
-            Grow(byteCount);
-        }
-        return data_;
-    }
+    char* Reserve(std::uint64_t byteCount) { return byteCount > size_ ? Grow(byteCount) : data_; }
 
     bool Contains(const char* text) const noexcept { return text >= data_ && text < data_ + size_; }
 
@@ -30,7 +25,7 @@ class TextBuffer {
   private:
     static constexpr std::uint64_t kInitialSize = 10;
 
-    void Grow(std::uint64_t byteCount);
+    char* Grow(std::uint64_t byteCount);
 
     std::uint64_t size_ = kInitialSize;
     char* data_;

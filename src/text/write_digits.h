@@ -125,28 +125,18 @@ inline void WriteMixedHexBlock(char* end, const VectorWord* words) noexcept {
     StoreBytes(end - 16, HexCharacters(aval.lower, bval.lower));
 }
 
-// The digits of kBlocks blocks, with one unknown test for all of them. Mixed ones are written out
-// of line: the registers that they need would have to be saved for known ones too.
+// The digits of kBlocks blocks under one unknown test; false, with nothing written, where it fails.
 template <std::size_t kBlocks>
-[[gnu::noinline]] void WriteMixedHexBlocks(char* end, const VectorWord* words) noexcept {
-    for (std::size_t i = 0; i < kBlocks; ++i) {
-        WriteMixedHexBlock(end - kHexBlockDigits * i, words + kHexBlockWords * i);
-    }
-}
-
-template <std::size_t kBlocks>
-inline void WriteHexBlocks(char* end, const VectorWord* words) noexcept {
+inline bool WriteKnownHexBlocks(char* end, const VectorWord* words) noexcept {
     Word seen = 0;
     for (std::size_t i = 0; i < kBlocks * kHexBlockWords; ++i) {
         seen |= LoadWord(words + i);
     }
-    if (IsUnknown(seen)) {
-        WriteMixedHexBlocks<kBlocks>(end, words);
-        return;
-    }
+    if (IsUnknown(seen)) return false;
     for (std::size_t i = 0; i < kBlocks; ++i) {
         WriteKnownHexBlock(end - kHexBlockDigits * i, words + kHexBlockWords * i);
     }
+    return true;
 }
 
 // The eight digits of a word.
@@ -155,6 +145,33 @@ inline std::uint64_t HexOfWord(Word word) noexcept {
     const Bytes text = IsUnknown(word) ? HexCharacters(aval, SpreadNibbles(Bval(word), 0).lower)
                                        : KnownHexCharacters(aval);
     return reinterpret_cast<Limbs>(text)[1];
+}
+
+// The last digits, fewer than a block's.
+inline char* WriteHexTail(char* end, const VectorWord* words, std::size_t digitCount) noexcept {
+    std::size_t left = digitCount;
+    for (; left >= 8; left -= 8) {
+        end -= 8;
+        StoreEight(end, HexOfWord(LoadWord(words++)));
+    }
+    if (left == 0) return end;
+    const Word word = LoadWord(words);
+    return WriteSingleDigits<Hexadecimal>(end, Aval(word), Bval(word), left);
+}
+
+// As WriteDigits, for a value that has shown an unknown bit. Out of line: the registers that mixed
+// blocks need would have to be saved for known ones too.
+[[gnu::noinline]] inline char* WriteMixedHexDigits(char* end, const VectorWord* words,
+                                                   std::size_t digitCount) noexcept {
+    std::size_t left = digitCount;
+    for (; left >= kHexBlockDigits; left -= kHexBlockDigits) {
+        if (!WriteKnownHexBlocks<1>(end, words)) {
+            WriteMixedHexBlock(end, words);
+        }
+        end -= kHexBlockDigits;
+        words += kHexBlockWords;
+    }
+    return WriteHexTail(end, words, left);
 }
 
 // The digits 0 to digitCount - 1 of a vector, the last character (digit 0) at end[-1]; each has all
@@ -203,22 +220,16 @@ inline char* WriteDigits(Hexadecimal, char* end, const VectorWord* words,
                          std::size_t digitCount) noexcept {
     std::size_t left = digitCount;
     for (; left >= 4 * kHexBlockDigits; left -= 4 * kHexBlockDigits) {
-        WriteHexBlocks<4>(end, words);
+        if (!WriteKnownHexBlocks<4>(end, words)) return WriteMixedHexDigits(end, words, left);
         end -= 4 * kHexBlockDigits;
         words += 4 * kHexBlockWords;
     }
     for (; left >= kHexBlockDigits; left -= kHexBlockDigits) {
-        WriteHexBlocks<1>(end, words);
+        if (!WriteKnownHexBlocks<1>(end, words)) return WriteMixedHexDigits(end, words, left);
         end -= kHexBlockDigits;
         words += kHexBlockWords;
     }
-    for (; left >= 8; left -= 8) {
-        end -= 8;
-        StoreEight(end, HexOfWord(LoadWord(words++)));
-    }
-    if (left == 0) return end;
-    const Word word = LoadWord(words);
-    return WriteSingleDigits<Hexadecimal>(end, Aval(word), Bval(word), left);
+    return WriteHexTail(end, words, left);
 }
 
 }  // namespace tarn
