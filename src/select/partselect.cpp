@@ -17,16 +17,14 @@ void ReadField(VectorWord* result, const VectorWord* source, unsigned offset, in
         StoreWord(result + last, top);
         return;
     }
-    Word low = LoadWord(source);
+    // Both words are loaded anew in each step: with one carried over the loop would not vectorise.
     for (std::size_t i = 0; i < last; ++i) {
-        const Word high = LoadWord(source + i + 1);
-        StoreWord(result + i, JoinWords(low, high, offset));
-        low = high;
+        StoreWord(result + i, JoinWords(LoadWord(source + i), LoadWord(source + i + 1), offset));
     }
     // The top result word needs the next source word only where the field reaches into it.
     const unsigned topBits = (static_cast<unsigned>(width) - 1U) % 32U + 1U;
     const Word high = offset + topBits > 32U ? LoadWord(source + last + 1) : Word{0};
-    StoreWord(result + last, JoinWords(low, high, offset) & topMask);
+    StoreWord(result + last, JoinWords(LoadWord(source + last), high, offset) & topMask);
 }
 
 }  // namespace tarn

@@ -105,6 +105,31 @@ inline std::uint64_t JoinBvals(Word low, Word high) noexcept {
     return (low >> kWordBits) | (high & kUnknownBits);
 }
 
+// A field of up to 32 bits that may lie across two words; the second is read only where it does.
+struct ShortField {
+    std::uint64_t aval;
+    std::uint64_t bval;
+};
+
+inline ShortField ReadShortField(const VectorWord* words, std::size_t bit,
+                                 unsigned bitCount) noexcept {
+    const VectorWord* const from = words + bit / kWordBits;
+    const unsigned offset = bit % kWordBits;
+    const Word low = LoadWord(from);
+    const Word high = offset + bitCount > kWordBits ? LoadWord(from + 1) : Word{0};
+    const std::uint64_t mask = LowMask(static_cast<int>(bitCount));
+    return {(PackWords(low, high) >> offset) & mask, (JoinBvals(low, high) >> offset) & mask};
+}
+
+// Eight known octal digits from 24 bits, in text order. Groups of 12, then 6, then 3 bits move apart
+// until each has a byte.
+inline std::uint64_t KnownOctalDigits(std::uint64_t bits) noexcept {
+    bits = (bits | bits << 20) & 0x00000FFF00000FFF;
+    bits = (bits | bits << 10) & 0x003F003F003F003F;
+    bits = (bits | bits << 5) & 0x0707070707070707;
+    return __builtin_bswap64(bits | kEightZeros);
+}
+
 inline constexpr std::size_t kHexBlockWords = 4;
 inline constexpr std::size_t kHexBlockDigits = 8 * kHexBlockWords;
 
@@ -195,25 +220,21 @@ inline char* WriteDigits(Binary, char* end, const VectorWord* words,
 
 inline char* WriteDigits(Octal, char* end, const VectorWord* words,
                          std::size_t digitCount) noexcept {
-    // Three words are 96 bits: two runs of sixteen digits, 48 bits each.
-    constexpr std::size_t kRun = 16;
-    std::size_t left = digitCount;
-    for (; left >= 2 * kRun; left -= 2 * kRun, words += 3) {
-        const Word low = LoadWord(words), middle = LoadWord(words + 1), high = LoadWord(words + 2);
-        end = WriteSingleDigits<Octal>(end, PackWords(low, middle), JoinBvals(low, middle), kRun);
-        end = WriteSingleDigits<Octal>(end, PackWords(middle, high) >> 16,
-                                       JoinBvals(middle, high) >> 16, kRun);
-    }
     std::size_t bit = 0;
-    for (; left > 0; --left, bit += Octal::kBits) {
-        const VectorWord* const from = words + bit / kWordBits;
-        const unsigned offset = bit % kWordBits;
-        const Word low = LoadWord(from);
-        const Word high = offset > kWordBits - Octal::kBits ? LoadWord(from + 1) : Word{0};
-        end = WriteSingleDigits<Octal>(end, PackWords(low, high) >> offset,
-                                       JoinBvals(low, high) >> offset, 1);
+    std::size_t left = digitCount;
+    for (; left >= 8; left -= 8, bit += 8 * Octal::kBits) {
+        const ShortField field = ReadShortField(words, bit, 8 * Octal::kBits);
+        if (field.bval == 0) {
+            end -= 8;
+            StoreEight(end, KnownOctalDigits(field.aval));
+        } else {
+            end = WriteSingleDigits<Octal>(end, field.aval, field.bval, 8);
+        }
     }
-    return end;
+    if (left == 0) return end;
+    const auto bitsLeft = static_cast<unsigned>(left) * Octal::kBits;
+    const ShortField field = ReadShortField(words, bit, bitsLeft);
+    return WriteSingleDigits<Octal>(end, field.aval, field.bval, left);
 }
 
 inline char* WriteDigits(Hexadecimal, char* end, const VectorWord* words,
