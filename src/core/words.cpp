@@ -1,7 +1,5 @@
 #include "core/words.h"
 
-#include <algorithm>
-
 namespace tarn {
 
 void FillLongRun(VectorWord* to, std::size_t count, Word word) noexcept {
@@ -12,16 +10,20 @@ void FillLongRun(VectorWord* to, std::size_t count, Word word) noexcept {
 
 bool HasUnknownLongRun(const VectorWord* words, std::size_t count) noexcept {
     // A block without a branch vectorises; a test after each keeps an early unknown bit cheap.
-    constexpr std::size_t kBlock = 64;
-    for (std::size_t first = 0; first < count; first += kBlock) {
-        const std::size_t last = std::min(first + kBlock, count);
+    constexpr std::size_t kBlock = 32;
+    for (; count >= kBlock; count -= kBlock, words += kBlock) {
         Word all = 0;
-        for (std::size_t i = first; i < last; ++i) {
+#pragma GCC unroll 32
+        for (std::size_t i = 0; i < kBlock; ++i) {
             all |= LoadWord(words + i);
         }
         if (IsUnknown(all)) return true;
     }
-    return false;
+    Word rest = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        rest |= LoadWord(words + i);
+    }
+    return IsUnknown(rest);
 }
 
 }  // namespace tarn
