@@ -383,7 +383,7 @@ TEST(Tarncalc, HelpTellsTheTruth) {
 }
 
 TEST(Tarncalc, ReportsOutputThatCannotBeWritten) {
-    const std::string command = std::string(TARNCALC_PATH) + " 1 > /dev/full 2> /dev/null";
+    const std::string command = "'" TARNCALC_PATH "' 1 > /dev/full 2> /dev/null";
     const int status = std::system(command.c_str());
     ASSERT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 1);
