@@ -63,6 +63,8 @@ class TextBuffer : public testing::Test {
         Find("tarn_GetGlobalBuffer", &get);
         Find("tarn_CopyToGlobalBuffer", &copy);
         Find("tarn_CopyNToGlobalBuffer", &copyN);
+        Find("tarn_SignedConvertToDec", &signedDecimal);
+        Find("tarn_UnsignedConvertToDec", &unsignedDecimal);
     }
 
     void TearDown() override {
@@ -82,6 +84,8 @@ class TextBuffer : public testing::Test {
     decltype(&tarn_GetGlobalBuffer) get = nullptr;
     decltype(&tarn_CopyToGlobalBuffer) copy = nullptr;
     decltype(&tarn_CopyNToGlobalBuffer) copyN = nullptr;
+    decltype(&tarn_SignedConvertToDec) signedDecimal = nullptr;
+    decltype(&tarn_UnsignedConvertToDec) unsignedDecimal = nullptr;
     GuardedBlock block;
 
   private:
@@ -139,6 +143,17 @@ TEST_F(TextBuffer, CountWithoutRoomForItsTerminatorGivesAnEmptyText) {
     EXPECT_STREQ(get(UINT_MAX), "");
     EXPECT_STREQ(copyN("abc", UINT_MAX), "");
     EXPECT_EQ(CapacityOf(get(0)), 10U);
+}
+
+// Bits above the width need room only where they make digits that the field has no place for.
+TEST_F(TextBuffer, DecimalDigitsTakeTheRoomOfTheirField) {
+    const VectorWord minusFive{0xFFFFFFFB, 0}, carry{0x1FF, 0}, longer{0x80000000, 0};
+    EXPECT_STREQ(signedDecimal(8, &minusFive, -1, 0), "  -5");
+    EXPECT_EQ(signedDecimal(8, &minusFive, -1, 0), get(0));
+    EXPECT_EQ(unsignedDecimal(8, &carry, -1, 0), get(0));
+    EXPECT_EQ(CapacityOf(get(0)), 10U);
+    EXPECT_STREQ(unsignedDecimal(8, &longer, -1, 0), "2147483648");
+    EXPECT_EQ(CapacityOf(get(0)), 20U);
 }
 
 TEST_F(TextBuffer, FailedGrowthLeavesTheBufferAsItWas) {

@@ -1,6 +1,7 @@
 #include "text/decimal_text.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -93,10 +94,12 @@ char* FormatDecimal(Operand value, DecimalField style) {
                             : std::max<std::size_t>(static_cast<std::size_t>(style.minDigits), 1);
     std::size_t length = std::max(digits, field);
     const char unknown = UnknownCharacter(value);
-    const Word top = LoadWord(value.words + value.Count() - 1);
-    if (unknown == '\0' && (top & ~static_cast<Word>(LowMask(value.width))) != 0) {
-        // Bits stored above the width may make digits of their own.
-        length = std::max(length, DigitsOfWidth(value.Count() * kWordBits) + kSignRoom);
+    // Bits stored above the width make digits of their own, but in no signed value: they make it
+    // negative and are dropped from its magnitude.
+    if (const Word top = LoadWord(value.words + value.Count() - 1);
+        !Extend::kIsSigned && unknown == '\0' && top > LowMask(value.width)) {
+        const auto topBits = static_cast<std::size_t>(std::bit_width(top));
+        length = std::max(length, DigitsOfWidth((value.Count() - 1) * kWordBits + topBits));
     }
     char* const end = globalBuffer.Reserve(length + 1) + length;
     *end = '\0';
