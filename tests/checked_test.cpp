@@ -15,6 +15,9 @@ TEST(CheckedDeathTest, ReportsPartlyOverlappingStorage) {
                  "tarn_UnsignedCopy.*sourceWidth = 64");
     EXPECT_DEATH(tarn_UnsignedCopy(64, words + 1, 64, words), "tarn_UnsignedCopy.*AreSameOrApart");
     tarn_UnsignedCopy(64, words + 2, 64, words);
+    // A vector without words lies nowhere, whatever its address.
+    tarn_SignedAdd(64, words, 0, words + 1, 64, words);
+    tarn_SignedMul(64, words, 64, words, 0, tarn_VectorRegister);
 }
 
 TEST(CheckedDeathTest, ReportsMissingAndMisalignedVectors) {

@@ -24,19 +24,21 @@ inline bool IsVector(int width, const VectorWord* words) noexcept {
     return width < 1 || (words != nullptr && reinterpret_cast<std::uintptr_t>(words) % 4 == 0);
 }
 
-// Whether two runs of words begin at the same word or share none.
+// Whether two runs of words begin at the same word or share none; one without words shares none.
 inline bool AreSameOrApart(int aWidth, const VectorWord* a, int bWidth,
                            const VectorWord* b) noexcept {
     const auto aFirst = reinterpret_cast<std::uintptr_t>(a);
     const auto bFirst = reinterpret_cast<std::uintptr_t>(b);
-    return aFirst == bFirst || aFirst + WordCount(aWidth) * sizeof(VectorWord) <= bFirst ||
+    return aWidth < 1 || bWidth < 1 || aFirst == bFirst ||
+           aFirst + WordCount(aWidth) * sizeof(VectorWord) <= bFirst ||
            bFirst + WordCount(bWidth) * sizeof(VectorWord) <= aFirst;
 }
 
 // Whether a vector lies outside the register that generated code and some operations share.
 inline bool IsOutsideRegister(int width, const VectorWord* words) noexcept {
-    return words != tarn_VectorRegister &&
-           AreSameOrApart(width, words, 32 * TARN_VECTOR_REGISTER_WORDS, tarn_VectorRegister);
+    return width < 1 ||
+           (words != tarn_VectorRegister &&
+            AreSameOrApart(width, words, 32 * TARN_VECTOR_REGISTER_WORDS, tarn_VectorRegister));
 }
 
 #if defined(TARNLIB_CHECKED)
