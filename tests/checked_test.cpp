@@ -1,5 +1,6 @@
 // The checked build names the export, the broken duty and the values, and aborts.
 #include <gtest/gtest.h>
+#include <vector>
 
 #include <tarnlib.h>
 
@@ -35,6 +36,11 @@ TEST(CheckedDeathTest, ReportsArgumentsOutOfRange) {
     EXPECT_DEATH(tarn_Partselect(words, words, 32, 1),
                  "tarn_Partselect.*offset < 32U.*offset = 32, width = 1");
     EXPECT_DEATH(tarn_CopyToGlobalBuffer(nullptr), "tarn_CopyToGlobalBuffer.*text = 0");
+}
+
+TEST(Checked, AcceptsTheWidestDecimalText) {
+    const std::vector<VectorWord> zeros(1'250'000);
+    EXPECT_STREQ(tarn_UnsignedConvertToDec(40'000'000, zeros.data(), 0, 0), "0");
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ TEST(Scratch, HoldsQuotients) {
 }
 
 TEST(Scratch, HoldsDecimalText) {
-    const std::size_t limbs = LimbsOf(kMaxProductWidth);
+    const std::size_t limbs = LimbsOf(kMaxDecimalWidth);
     EXPECT_LE(limbs + ToDecimalScratch(limbs), kScratchLimbs);
 }
 

@@ -88,7 +88,7 @@ TARNLIB_API char* tarn_ConvertToHex0(int code);
  *  returns   the first character, which is in general not the start of the text buffer.
  *  scratch   a known value leaves its words' places at the start of tarn_VectorRegister 0. The
  *            value may lie there.
- *  limits    20,000,000 bits; not checked.
+ *  limits    40,000,000 bits; not checked.
  *  source    IEEE 1364-2005, 17.1.1.2 and 17.1.1.3
  *  example   8'sd-5 is "  -5", with zeroPad "-005", with minDigits 0 "-5". */
 TARNLIB_API char* tarn_UnsignedConvertToDec(int width, const VectorWord* value, int minDigits,

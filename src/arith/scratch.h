@@ -9,11 +9,13 @@
 namespace tarn {
 
 // The widest result of a product or power, the widest dividend and quotient, the widest divisor and
-// the widest exponent.
+// the widest exponent; the widest value with a decimal text, whose words' values fill the shared
+// register.
 inline constexpr int kMaxProductWidth = 20'000'000;
 inline constexpr int kMaxQuotientWidth = 10'000'000;
 inline constexpr int kMaxDivisorWidth = 40'000'000;
 inline constexpr int kMaxExponentWidth = 40'000'000;
+inline constexpr int kMaxDecimalWidth = 40'000'000;
 
 // Limbs for the largest need of any operation at those widths, its kernels' temporaries included.
 // Pages that are never touched cost nothing.

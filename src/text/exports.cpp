@@ -21,7 +21,7 @@
 #define TARN_REQUIRE_DECIMAL(width, value, minDigits, zeroPad) \
     TARN_ARGUMENTS(width, value, minDigits, zeroPad);          \
     TARN_REQUIRE(width >= 1);                                  \
-    TARN_REQUIRE(width <= kMaxProductWidth);                   \
+    TARN_REQUIRE(width <= kMaxDecimalWidth);                   \
     TARN_REQUIRE(IsVector(width, value))
 
 #define TARN_REQUIRE_SIZE(value, width, overflow) \
