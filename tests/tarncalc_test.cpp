@@ -1,14 +1,14 @@
 // tarncalc as a user meets it: arguments and standard input in, two texts and a status out.
 #include <cstdio>
-#include <fcntl.h>
+#include <cstdlib>
+#include <fstream>
 #include <gtest/gtest.h>
-#include <memory>
-#include <ostream>
 #include <pty.h>
-#include <spawn.h>
+#include <sstream>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 #include <tarnlib.h>
@@ -23,60 +23,35 @@ struct Row {
     int status;
 };
 
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
-
-File FileWith(const std::string& text) {
-    File file(std::tmpfile());
-    std::fwrite(text.data(), 1, text.size(), file.get());
-    std::rewind(file.get());
-    return file;
-}
-
-std::string TextOf(const File& file) {
-    std::rewind(file.get());
-    std::string text;
-    for (int c = std::fgetc(file.get()); c != EOF; c = std::fgetc(file.get())) {
-        text += static_cast<char>(c);
+std::string QuotedForTheShell(const std::string& text) {
+    std::string quoted = "'";
+    for (const char c : text) {
+        quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
     }
-    return text;
+    return quoted + '\'';
 }
 
-/** argv, as exec wants it; the arguments must outlive it. */
-std::vector<char*> ArgumentVector(Arguments& arguments) {
-    std::vector<char*> pointers;
-    for (std::string& argument : arguments) {
-        pointers.push_back(argument.data());
-    }
-    pointers.push_back(nullptr);
-    return pointers;
-}
-
-int ExitStatus(pid_t process) {
-    int status = 0;
-    EXPECT_EQ(waitpid(process, &status, 0), process);
+int ExitStatus(int status) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 /** Runs tarncalc and returns what it did, in a row with the same arguments and input. */
 Row RunTarncalc(const Arguments& arguments, const std::string& input) {
-    const File in = FileWith(input), out = FileWith(""), err = FileWith("");
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, fileno(in.get()), STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, fileno(out.get()), STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, fileno(err.get()), STDERR_FILENO);
-    Arguments all{TARNCALC_PATH};
-    all.insert(all.end(), arguments.begin(), arguments.end());
-    pid_t process = 0;
-    const int failure = posix_spawn(&process, TARNCALC_PATH, &actions, nullptr,
-                                    ArgumentVector(all).data(), environ);
-    posix_spawn_file_actions_destroy(&actions);
-    EXPECT_EQ(failure, 0);
-    const int status = failure == 0 ? ExitStatus(process) : -1;
-    return {arguments, input, TextOf(out), TextOf(err), status};
+    const std::string base = testing::TempDir() + "tarncalc_test." + std::to_string(getpid());
+    const std::string in = base + ".in", out = base + ".out", err = base + ".err";
+    std::ofstream(in, std::ios::binary) << input;
+    std::string command = QuotedForTheShell(TARNCALC_PATH);
+    for (const std::string& argument : arguments) {
+        command += ' ' + QuotedForTheShell(argument);
+    }
+    const int status = std::system((command + " <" + in + " >" + out + " 2>" + err).c_str());
+    std::ostringstream output, error;
+    output << std::ifstream(out, std::ios::binary).rdbuf();
+    error << std::ifstream(err, std::ios::binary).rdbuf();
+    for (const std::string& path : {in, out, err}) {
+        std::remove(path.c_str());
+    }
+    return {arguments, input, output.str(), error.str(), ExitStatus(status)};
 }
 
 void Check(const Row& row) {
@@ -97,18 +72,13 @@ struct Sum {
 };
 
 const Sum kSums[] = {
-    {{"8'hFF + 8'h01"}, "8'h00\n"},
-    {{"9'hFF + 8'h01"}, "9'h100\n"},
-    {{"-d", "-8'sd5"}, "-8'sd5\n"},
-    {{"4'b1x0z + 1"}, "32'hxxxxxxxx\n"},
     // Widths: an operand is extended before the operation, in parentheses and under a minus too.
     {{"-8'd1 + 16'd0", "(-8'd1) + 16'd0", "16'd0 + -(+8'd1)"}, "16'hffff\n16'hffff\n16'hffff\n"},
     {{"8'hff + 8'hff + 16'h0", "16'h0 + (8'hff + 8'hff)"}, "16'h01fe\n16'h01fe\n"},
     {{"32'hffffffff + 33'h1", "-64'h1", "65'h0 - 1'b1"},
      "33'h100000000\n64'hffffffffffffffff\n65'h1ffffffffffffffff\n"},
     // Signs: one unsigned operand anywhere makes every operand extend by zeros.
-    {{"4'sb1000 + 8'sd0", "4'sb1000 + 8'd0"}, "8'shf8\n8'h08\n"},
-    {{"16'sd0 + (4'sb1000 + 8'sd0)", "16'd0 + (4'sb1000 + 8'sd0)"}, "16'shfff8\n16'h0008\n"},
+    {{"4'sb1000 + 8'sd0", "16'd0 + (4'sb1000 + 8'sd0)"}, "8'shf8\n16'h0008\n"},
     {{"-4'sb1000 + 5'sd0", "-4'sb1000 + 5'd0", "-(-4'sd3) + 40'd0"},
      "5'sh08\n5'h18\n40'h0000000003\n"},
     {{"-d", "3 - 7", "3 - 7 - 1", "3 - (7 - 1)", "1--1", "1 - - + 1"},
@@ -134,7 +104,6 @@ const Sum kSums[] = {
     // Unknowns: kept by a literal, all x after any operator.
     {{"8'b1x", "+8'b1x", "-4'sbz", "40'h0 + 'x", "4'bz - 4'bz"},
      "8'b0000001x\n8'hxx\n4'shx\n40'hxxxxxxxxxx\n4'hx\n"},
-    {{"4'sbx + 8'sh0", "16'shz_5", "6'bxx0101"}, "8'shxx\n16'shzzz5\n6'hx5\n"},
     {{"-o", "6'b0x0111", "6'bxxx111", "8'bz"}, "6'b0x0111\n6'ox7\n8'ozzz\n"},
     {{"-d", "32'bx", "8'sbz", "8'bxz", "8'b1z", "-8'hx"},
      "32'dx\n8'sdz\n8'bxxxxxxxz\n8'b0000001z\n8'dx\n"},
@@ -144,11 +113,7 @@ const Sum kSums[] = {
     {{"-x", "6'd63", "-d", "-b", "-x"}, "6'h3f\n"},
     {{"-d", "8'sh80", "-1'sb1", "8'h80", "65'h1_0000_0000_0000_0000", "0", "1'sd0"},
      "-8'sd128\n-1'sd1\n8'd128\n65'd18446744073709551616\n32'sd0\n1'sd0\n"},
-    {{"-d", "-64'sh8000000000000000", "64'd1000000000", "128'd1000000000000000000000000000"},
-     "-64'sd9223372036854775808\n64'd1000000000\n128'd1000000000000000000000000000\n"},
     // Every form of a literal.
-    {{"42", "4_2", "0", "4294967295"},
-     "32'sh0000002a\n32'sh0000002a\n32'sh00000000\n32'shffffffff\n"},
     {{"8'hFf", "8 'Hff", "8 'h ff", "8\t'h\tff"}, "8'hff\n8'hff\n8'hff\n8'hff\n"},
     {{"'hf", "'hF_FFFF_FFFF", "'o7", "'b1", "'bx", "'sd7", "'sh8"},
      "32'h0000000f\n36'hfffffffff\n32'h00000007\n32'h00000001\n32'hxxxxxxxx\n32'sh00000007\n"
@@ -202,15 +167,11 @@ const Wrong kWrong[] = {
     {"8'hFF + ", "expected an operand", 8},
     {"", "expected an operand", 0},
     {"1 + )", "expected an operand", 4},
-    {"()", "expected an operand", 1},
     {"1 2", "expected an operator", 2},
-    {"1 (2)", "expected an operator", 2},
     {"(1", "expected ')'", 2},
     {"(1 2", "expected an operator or ')'", 3},
     {"1)", "unmatched ')'", 1},
-    {"2 * * 3", "expected an operand", 4},
     {"1 @ 2", "unexpected character '@'", 2},
-    {"1 + x", "unexpected character 'x'", 4},
     {"\x01", "unexpected control character 0x01", 0},
     {"0'h1", "the size of a literal can't be 0", 0},
     {"1+0_0'h1", "the size of a literal can't be 0", 2},
@@ -218,25 +179,15 @@ const Wrong kWrong[] = {
     {"99999999999999999999999'h0", "a literal can't be wider than 10000000 bits", 0},
     {"8'", "expected a base letter: b, o, d or h", 2},
     {"8'5", "expected a base letter: b, o, d or h", 2},
-    {"8'1", "expected a base letter: b, o, d or h", 2},
-    {"8's5", "expected a base letter: b, o, d or h", 3},
-    {"8'q5", "expected a base letter: b, o, d or h", 2},
     {"8' h5", "expected a base letter: b, o, d or h", 2},
-    {"'", "expected a base letter: b, o, d or h", 1},
     {"8'h", "expected hexadecimal digits", 3},
-    {"8'b + 1", "expected binary digits", 4},
-    {"8'o_", "expected octal digits", 3},
     {"8'b012", "character '2' is no binary digit", 5},
-    {"8'o8", "character '8' is no octal digit", 3},
     {"8'hfg", "character 'g' is no hexadecimal digit", 4},
-    {"8'd1f", "character 'f' is no decimal digit", 4},
     {"12ab", "character 'a' is no decimal digit", 2},
     {"8'd1x", "a decimal x, z or ? must be the only digit", 4},
     {"8'dz_1", "a decimal x, z or ? must be the only digit", 5},
     {"'01", "a fill digit stands alone", 2},
     {"1 + \"ab", "missing closing double quote", 4},
-    {"\"ab\\\"", "missing closing double quote", 0},
-    {"\"\\400\"", "an octal escape can't be above \\377", 1},
     {"\"\\1771\\4001\"", "an octal escape can't be above \\377", 6},
     {"\"a\nb\"", "control character 0x0a in a string: write it as an escape", 2},
     {"\"\\\x7f\"", "control character 0x7f in a string: write it as an escape", 2},
@@ -254,50 +205,29 @@ TEST(Tarncalc, ShowsThePlaceOfAnErrorWithACaret) {
     }
 }
 
-const std::string kExpectedOperand = "tarncalc: expected an operand\n";
+const std::string kExpected = "tarncalc: expected an operand\n";
+const std::string kUnexpected = "unexpected character outside ASCII\n";
+const std::string kLost = " does not fit its width and loses its upper bits\n";
 
 const Row kRows[] = {
-    {{"1", "2 +", "3"},
-     "",
-     "32'sh00000001\n32'sh00000003\n",
-     kExpectedOperand + "  2 +\n     ^\n",
-     2},
-    {{"-q", "1"}, "", "", "tarncalc: unknown option -q; tarncalc --help lists the options\n", 2},
-    {{"--base=2"},
-     "",
-     "",
-     "tarncalc: unknown option --base=2; tarncalc --help lists the options\n",
-     2},
+    {{"1", "2 +", "3"}, "", "32'sh00000001\n32'sh00000003\n", kExpected + "  2 +\n     ^\n", 2},
+    {{"-q"}, "", "", "tarncalc: unknown option -q; tarncalc --help lists the options\n", 2},
     {{"--", "-b"}, "", "", "tarncalc: unexpected character 'b'\n  -b\n   ^\n", 2},
     // The caret stays under its place behind tabs and behind characters of several bytes.
-    {{"\t1\t+"}, "", "", kExpectedOperand + "  \t1\t+\n  \t \t ^\n", 2},
+    {{"\t1\t+"}, "", "", kExpected + "  \t1\t+\n  \t \t ^\n", 2},
     {{"\"\xE2\x82\xAC\xC3\xA9\"+"},
      "",
      "",
-     kExpectedOperand + "  \"\xE2\x82\xAC\xC3\xA9\"+\n       ^\n",
+     kExpected + "  \"\xE2\x82\xAC\xC3\xA9\"+\n       ^\n",
      2},
-    {{"\"\xFF\xC2\x9B\xE2\x82\"+"}, "", "", kExpectedOperand + "  \"?????\"+\n          ^\n", 2},
-    {{"1 + \xC2\xB5"},
-     "",
-     "",
-     "tarncalc: unexpected character outside ASCII\n  1 + \xC2\xB5\n      ^\n",
-     2},
+    {{"\"\xFF\xC2\x9B\xE2\x82\"+"}, "", "", kExpected + "  \"?????\"+\n          ^\n", 2},
+    {{"1 + \xC2\xB5"}, "", "", "tarncalc: " + kUnexpected + "  1 + \xC2\xB5\n      ^\n", 2},
     // Lost bits are warned of, those of a top digit cut inside too; the value is used.
-    {{"4'b10101", "3'hf + 4'h0"},
-     "",
-     "4'h5\n4'h7\n",
-     "tarncalc: warning: 4'b10101 does not fit its width and loses its upper bits\n"
-     "tarncalc: warning: 3'hf does not fit its width and loses its upper bits\n",
-     0},
-    {{"8'd256"},
+    {{"4'b10101", "3'hf + 4'h0", "4294967296"},
      "1\n",
-     "8'h00\n",
-     "tarncalc: warning: 8'd256 does not fit its width and loses its upper bits\n",
-     0},
-    {{"4294967296"},
-     "",
-     "32'sh00000000\n",
-     "tarncalc: warning: 4294967296 does not fit its width and loses its upper bits\n",
+     "4'h5\n4'h7\n32'sh00000000\n",
+     "tarncalc: warning: 4'b10101" + kLost + "tarncalc: warning: 3'hf" + kLost +
+         "tarncalc: warning: 4294967296" + kLost,
      0},
     // Lines.
     {{"-d"}, "1 + 1\n\n \t\r\n8'd7\r\n2'd3", "32'sd2\n8'd7\n2'd3\n", "", 0},
@@ -305,7 +235,8 @@ const Row kRows[] = {
      "8'h1\n\n8'h1 +\n8'h1ff\n8'h2",
      "8'h01\n8'hff\n8'h02\n",
      "tarncalc: line 3: expected an operand\n  8'h1 +\n        ^\n"
-     "tarncalc: line 4: warning: 8'h1ff does not fit its width and loses its upper bits\n",
+     "tarncalc: line 4: warning: 8'h1ff" +
+         kLost,
      2},
     {{},
      std::string("1\0+2\n", 5),
@@ -348,19 +279,17 @@ TEST(Tarncalc, SurvivesVeryLongLines) {
     Check({{}, "10000000'd3 ** -10000000'sd1 + 10000000'h0", zeros + "00\n", "", 0});
     Check({{}, "(10000000'd3 ** 10000000'd5) * 1", zeros + "f3\n", "", 0});
     Check({{"-d"}, "10000000'd3 ** 10000000'bx", "10000000'dx\n", "", 0});
-    const std::string slow = "tarncalc: line 1: this power would take too long to calculate\n";
-    Check({{},
-           "10000000'd3 ** -10000000'd1",
-           "",
-           slow + "  10000000'd3 ** -10000000'd1\n" + Repeat(" ", 14) + "^\n",
-           2});
-
-    Row row = RunTarncalc({}, '1' + Repeat("+1", 1'000'000));
-    EXPECT_EQ(row.error.substr(0, row.error.find('\n')),
-              "tarncalc: line 1: more than 1000000 operators and operands");
-    row = RunTarncalc({}, "10000000'h1" + Repeat("+10000000'h1", 300));
-    EXPECT_EQ(row.error.substr(0, row.error.find('\n')),
-              "tarncalc: line 1: the expression needs too much storage");
+    const std::pair<std::string, std::string> refused[] = {
+        {"10000000'd3 ** -10000000'd1", "this power would take too long to calculate"},
+        {'1' + Repeat("+1", 1'000'000), "more than 1000000 operators and operands"},
+        {"10000000'h1" + Repeat("+10000000'h1", 300), "the expression needs too much storage"},
+    };
+    for (const auto& [line, message] : refused) {
+        const Row row = RunTarncalc({}, line);
+        EXPECT_EQ(row.error.substr(0, row.error.find('\n')), "tarncalc: line 1: " + message);
+        EXPECT_EQ(row.output, "");
+        EXPECT_EQ(row.status, 2);
+    }
 }
 
 /** The lines of --help that show a call give the results that they promise. */
@@ -383,10 +312,7 @@ TEST(Tarncalc, HelpTellsTheTruth) {
 }
 
 TEST(Tarncalc, ReportsOutputThatCannotBeWritten) {
-    const std::string command = "'" TARNCALC_PATH "' 1 > /dev/full 2> /dev/null";
-    const int status = std::system(command.c_str());
-    ASSERT_TRUE(WIFEXITED(status));
-    EXPECT_EQ(WEXITSTATUS(status), 1);
+    EXPECT_EQ(ExitStatus(std::system("'" TARNCALC_PATH "' 1 > /dev/full 2> /dev/null")), 1);
 }
 
 TEST(Tarncalc, EditsLinesAndRemembersThemOnATerminal) {
@@ -394,34 +320,32 @@ TEST(Tarncalc, EditsLinesAndRemembersThemOnATerminal) {
     const pid_t process = forkpty(&terminal, nullptr, nullptr, nullptr);
     ASSERT_GE(process, 0);
     if (process == 0) {
-        Arguments arguments{TARNCALC_PATH, "-d"};
-        execv(TARNCALC_PATH, ArgumentVector(arguments).data());
+        execl(TARNCALC_PATH, TARNCALC_PATH, "-d", nullptr);
         _exit(127);
     }
     // The second line is the first one, fetched with Ctrl-P, its last digit rubbed out and typed
     // anew. Ctrl-D on an empty line ends the session.
-    struct Step {
-        std::string awaited, keys;
-    };
-    const Step steps[] = {{"> ", "20 + 1\r"},
-                          {"\n32'sd21\r\n> ",
-                           "\x10\x7f"
-                           "3\r"},
-                          {"\n32'sd23\r\n> ", "\x04"}};
-    const Step* step = std::begin(steps);
+    // Each row is what the screen must show before the keys are typed.
+    const std::pair<std::string, std::string> steps[] = {{"> ", "20 + 1\r"},
+                                                         {"\n32'sd21\r\n> ",
+                                                          "\x10\x7f"
+                                                          "3\r"},
+                                                         {"\n32'sd23\r\n> ", "\x04"}};
+    const auto* step = std::begin(steps);
     std::string screen;
     char buffer[256];
     for (ssize_t count = 1; count > 0;) {
         count = read(terminal, buffer, sizeof buffer);
         if (count > 0) screen.append(buffer, static_cast<std::size_t>(count));
-        if (step != std::end(steps) && screen.find(step->awaited) != std::string::npos) {
-            const auto keyCount = static_cast<ssize_t>(step->keys.size());
-            ASSERT_EQ(write(terminal, step->keys.data(), step->keys.size()), keyCount);
-            ++step;
+        if (step != std::end(steps) && screen.find(step->first) != std::string::npos) {
+            const std::string& keys = (step++)->second;
+            ASSERT_EQ(write(terminal, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
         }
     }
     close(terminal);
-    EXPECT_EQ(ExitStatus(process), 0);
+    int status = 0;
+    EXPECT_EQ(waitpid(process, &status, 0), process);
+    EXPECT_EQ(ExitStatus(status), 0);
     EXPECT_EQ(step, std::end(steps)) << screen;
     EXPECT_TRUE(screen.ends_with("> \r\n")) << screen;
 }
