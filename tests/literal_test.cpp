@@ -92,6 +92,8 @@ TEST(Literal, KnownLiterals) {
         {"4", "10", Signed("4'ha"_v)},
         {"16", "'dz", Unsigned("16'hz"_v)},
         {"8", "'d0000", Unsigned("8'h0"_v)},
+        {"8", "'d1" + std::string(600, '0'), Unsigned("8'h0"_v, 1)},
+        {"8", "'d9" + std::string(600, '0') + "77", Unsigned("8'h4d"_v, 1)},
         {"16", "'O \t?7", Unsigned(FromDigits(16, 3, "z7"))},
         {"16", "'h", Unsigned("16'h0"_v)},
         {"16", "'", Unsigned("16'h0"_v)},

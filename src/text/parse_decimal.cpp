@@ -117,11 +117,20 @@ Fit ParseLong(Result result, std::string_view digits) {
         FillWords(result.words, result.Count(), 0);
         return Fit::kUnsettled;
     }
+    // 10^width is a multiple of 2^width and greater: digits in front of the last `width` ones change
+    // nothing but the verdict.
+    const auto width = static_cast<std::size_t>(result.width);
+    const bool isCut = count > width;
+    if (isCut) {
+        significant += count - width;
+        count = width;
+    }
     const std::size_t room = FromDecimalLimbs(count);
     WorkingArea<Limb, kShortText / 4> limbs(room + FromDecimalScratch(count));
     const std::size_t limbCount =
         FromDecimal(limbs.Items(), significant, count, limbs.Items() + room);
-    return StoreValue(result, {limbs.Items(), std::max<std::size_t>(limbCount, 1), false});
+    const Fit fit = StoreValue(result, {limbs.Items(), std::max<std::size_t>(limbCount, 1), false});
+    return isCut ? Fit::kTruncated : fit;
 }
 
 }  // namespace
