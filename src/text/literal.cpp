@@ -1,6 +1,7 @@
 #include "text/literal.h"
 
 #include <algorithm>
+#include <optional>
 
 #include <tarnlib/text.h>
 
@@ -34,8 +35,43 @@ int ParseSizeText(const char* text) noexcept {
     return size;
 }
 
-bool IsOneOf(std::string_view characters, std::string_view text) noexcept {
-    return !text.empty() && characters.find(text.front()) != std::string_view::npos;
+// The character that a text begins with, NUL for none.
+char FirstOf(std::string_view text) noexcept {
+    return text.empty() ? '\0' : text.front();
+}
+
+constexpr bool IsFillDigit(char character) noexcept {
+    switch (character) {
+        case '0':
+        case '1':
+        case 'x':
+        case 'X':
+        case 'z':
+        case 'Z':
+            return true;
+        default:
+            return false;
+    }
+}
+
+// The base of a letter behind the quote; nothing for any other character.
+constexpr std::optional<Base> BaseOf(char letter) noexcept {
+    switch (letter) {
+        case 'b':
+        case 'B':
+            return Base::kBinary;
+        case 'o':
+        case 'O':
+            return Base::kOctal;
+        case 'd':
+        case 'D':
+            return Base::kDecimal;
+        case 'h':
+        case 'H':
+            return Base::kHexadecimal;
+        default:
+            return std::nullopt;
+    }
 }
 
 // The bits of a digit of a base that has them; 0 for decimal.
@@ -55,39 +91,25 @@ int BitsPerDigit(Base base) noexcept {
 Prefix ParsePrefix(std::string_view text) noexcept {
     Prefix prefix;
     prefix.digits = text;
-    if (!IsOneOf("'", text)) return prefix;
+    if (FirstOf(text) != '\'') return prefix;
     text.remove_prefix(1);
     prefix.isSigned = false;
-    if (IsOneOf("01xXzZ", text)) {
+    if (IsFillDigit(FirstOf(text))) {
         prefix.isFill = true;
         prefix.base = Base::kBinary;
         prefix.digits = text;
         return prefix;
     }
-    if (IsOneOf("sS", text)) {
+    if (FirstOf(text) == 's' || FirstOf(text) == 'S') {
         prefix.isSigned = true;
         text.remove_prefix(1);
     }
-    prefix.digits = text;
-    if (!IsOneOf("bBoOdDhH", text)) return prefix;
-    switch (text.front()) {
-        case 'b':
-        case 'B':
-            prefix.base = Base::kBinary;
-            break;
-        case 'o':
-        case 'O':
-            prefix.base = Base::kOctal;
-            break;
-        case 'h':
-        case 'H':
-            prefix.base = Base::kHexadecimal;
-            break;
-        default:
-            break;
+    if (const std::optional<Base> base = BaseOf(FirstOf(text))) {
+        prefix.base = *base;
+        do {
+            text.remove_prefix(1);
+        } while (FirstOf(text) == ' ' || FirstOf(text) == '\t');
     }
-    text.remove_prefix(1);
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
     prefix.digits = text;
     return prefix;
 }
