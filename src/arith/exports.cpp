@@ -8,8 +8,8 @@
 #include "arith/scratch.h"
 #include "core/contract.h"
 
-// Where the shared register may be used: the first operand is done with before the register is
-// overwritten, the second is not.
+// The shared register belongs to these operations during the call; only the first operand of a
+// product or a power may lie in it.
 #define TARN_REQUIRE_PRODUCT(resultWidth, result, aWidth, a, bWidth, b)   \
     TARN_REQUIRE_TWO_OPERANDS(resultWidth, result, aWidth, a, bWidth, b); \
     TARN_REQUIRE(resultWidth <= kMaxProductWidth);                        \

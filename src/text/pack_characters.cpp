@@ -1,4 +1,4 @@
-#include <algorithm>
+#include <cstring>
 
 #include "core/words.h"
 #include "text/parse.h"

@@ -1,6 +1,5 @@
 #include "text/text_buffer.h"
 
-#include <algorithm>
 #include <climits>
 #include <cstring>
 

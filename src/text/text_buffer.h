@@ -18,7 +18,11 @@ class TextBuffer {
     // small doubles until it is large enough and keeps its contents; the old storage is freed.
     char* Reserve(std::uint64_t byteCount) { return byteCount > size_ ? Grow(byteCount) : data_; }
 
-    bool Contains(const char* text) const noexcept { return text >= data_ && text < data_ + size_; }
+    // As numbers, because the text may belong to any other storage.
+    bool Contains(const char* text) const noexcept {
+        return reinterpret_cast<std::uintptr_t>(text) - reinterpret_cast<std::uintptr_t>(data_) <
+               size_;
+    }
 
     std::ptrdiff_t OffsetOf(const char* text) const noexcept { return text - data_; }
 

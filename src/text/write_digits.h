@@ -3,7 +3,7 @@
 #ifndef TARN_TEXT_WRITE_DIGITS_H
 #define TARN_TEXT_WRITE_DIGITS_H
 
-#include <algorithm>
+#include <cstring>
 
 #include "arith/pack.h"
 #include "text/byte_vector.h"
