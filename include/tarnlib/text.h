@@ -184,9 +184,9 @@ TARNLIB_API bool tarn_HexStringToVector(int width, VectorWord* result,
  *  top word  clean: the bits above the width are 0.
  *  writes    exactly N(width) words; none for a width below 1.
  *  returns   false.
- *  limits    '_' is skipped wherever it stands. A character that is no digit counts as 0. A working
- *            area for the digits is allocated during the call; std::bad_alloc passes through. May
- *            run in any thread.
+ *  limits    '_' is skipped wherever it stands. A character that is no digit counts as 0. For a
+ *            long text working areas are allocated during the call; std::bad_alloc passes through.
+ *            May run in any thread.
  *  source    IEEE 1364-2005, 3.5.1
  *  example   "300" at width 8 is 44. */
 TARNLIB_API bool tarn_DecimalStringToVector(int width, VectorWord* result, const char* digits);
@@ -235,12 +235,14 @@ TARNLIB_API void tarn_AssignStringToVector(int width, VectorWord* result, int le
  *            for a string, at most 1,250,000 characters (an empty string is one NUL).
  *  unknown   digits as in tarn_BinaryStringToVector and tarn_DecimalStringToVector.
  *  top word  clean: the bits above the width are 0.
- *  writes    N(*width) words of new storage, its address to *result; 1 to *truncated (where not
- *            null) where digits or characters were lost, else 0.
+ *  writes    N(*width) words of new storage, its address to *result. To *truncated (where not null)
+ *            1 where a string or a decimal value was cut, or where characters in front of the bits
+ *            that fill the width were left unread, zeros and underscores included; else 0.
  *  returns   true for a signed number: a plain decimal number, or one with s before the base.
  *  limits    `allocate` is called once, with N(*width) * 8 bytes; what it returns is the caller's.
- *            No literal is rejected. A working area as long as the text may be allocated during the
- *            call. May run in any thread.
+ *            No literal is rejected. For a long text working areas are allocated during the call;
+ *            std::bad_alloc passes through, and *result, where it was stored by then, has no value
+ *            yet. May run in any thread.
  *  source    IEEE 1364-2005, 3.5.1 and 3.6
  *  example   "4" and "'b10101" give 4'b0101 and *truncated 1. */
 TARNLIB_API bool tarn_CreateVector(const char* sizeText, const char* valueText, int* width,
