@@ -115,36 +115,17 @@ TEST_P(AddInPlace, MatchesModel) {
 }
 
 // What the model leaves to conventions of its own: the storage, word for word.
-TEST(Add, KnownSums) {
-    struct Row {
-        TwoOperands* function;
-        int width;
-        Vec a, b, expected;
-    };
-    const Row rows[] = {
-        {tarn_UnsignedAdd, 8, "8'hff"_v, "8'h01"_v, Words(8, {{0x100, 0}})},
-        {tarn_SignedAdd, 64, "8'shff"_v, "64'h5"_v, "64'h4"_v},
-        {tarn_UnsignedAdd, 64, "32'hffffffff"_v, "64'h5"_v, "64'h100000004"_v},
-        {tarn_SignedAdd, 64, "8'hff"_v, "64'h5"_v, "64'h104"_v},  // bit 31 is the sign
-        {tarn_UnsignedSub, 8, "8'h00"_v, "8'h01"_v, Words(8, {{0xFFFFFFFF, 0}})},
-        {tarn_UnsignedSub, 64, "64'h100000000"_v, "1'b1"_v, "64'hffffffff"_v},
-        {tarn_SignedAdd, 8, "64'hz0000000000"_v, "8'h00"_v, AllX(8)},
-        {tarn_UnsignedAdd, 40, "40'h1"_v, Words(8, {{0, 0x100}}), AllX(40)},
-        {tarn_UnsignedSub, 40, Vec{}, Vec{-1, {}}, "40'h0"_v},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(Call(row.function, row.width, row.a, row.b), row.expected)
-            << row.a << " " << row.b;
-    }
-}
-
-TEST(Add, KnownStepsAndSigns) {
-    EXPECT_EQ(Call(tarn_Inc, "40'hffffffffff"_v), Words(40, {{0, 0}, {0x100, 0}}));
-    EXPECT_EQ(Call(tarn_Dec, "16'h0"_v), Words(16, {{0xFFFFFFFF, 0}}));
-    EXPECT_EQ(Call(tarn_Inc, "70'hz0ffffffffffffffff"_v), AllX(70));
+TEST(Add, KnownResults) {
+    EXPECT_EQ(Call(tarn_UnsignedAdd, 8, "8'hff"_v, "8'h01"_v), Words(8, {{0x100, 0}}));
+    EXPECT_EQ(Call(tarn_SignedAdd, 64, "8'hff"_v, "64'h5"_v), "64'h104"_v);  // bit 31 is the sign
+    EXPECT_EQ(Call(tarn_SignedAdd, 8, "64'hz0000000000"_v, "8'h00"_v), AllX(8));
+    EXPECT_EQ(Call(tarn_UnsignedAdd, 40, "40'h1"_v, Words(8, {{0, 0x100}})), AllX(40));
+    EXPECT_EQ(Call(tarn_UnsignedSub, 8, "8'h00"_v, "8'h01"_v), Words(8, {{0xFFFFFFFF, 0}}));
+    EXPECT_EQ(Call(tarn_UnsignedSub, 40, Vec{}, Vec{-1, {}}), "40'h0"_v);
     EXPECT_EQ(Call(tarn_UnsignedMinus, 64, "1'b1"_v), "64'hffffffffffffffff"_v);
     EXPECT_EQ(Call(tarn_SignedPlus, 64, "32'h80000000"_v), "64'hffffffff80000000"_v);
-    EXPECT_EQ(Call(tarn_SignedPlus, 8, "64'hz000000000000000"_v), AllX(8));
+    EXPECT_EQ(Call(tarn_Inc, "40'hffffffffff"_v), Words(40, {{0, 0}, {0x100, 0}}));
+    EXPECT_EQ(Call(tarn_Dec, "16'h0"_v), Words(16, {{0xFFFFFFFF, 0}}));
 }
 
 }  // namespace
