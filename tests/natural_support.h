@@ -28,25 +28,12 @@ class Generator {
 
     Limbs Take(std::size_t count, Kind kind) {
         Limbs limbs(count, 0);
-        switch (kind) {
-            case Kind::kRuns:
-                FillRuns(limbs);
-                break;
-            case Kind::kOnes:
-                std::fill(limbs.begin(), limbs.end(), ~Limb{0});
-                break;
-            case Kind::kSingleBit:
-                limbs[random_() % count] = Limb{1} << (random_() % kLimbBits);
-                break;
-            case Kind::kZero:
-                break;
-            default:
-                std::generate(limbs.begin(), limbs.end(), std::ref(random_));
-                break;
-        }
-        if (kind == Kind::kZeroTop) {
-            const auto zeros = static_cast<std::ptrdiff_t>(random_() % count);
-            std::fill(limbs.end() - zeros, limbs.end(), Limb{0});
+        if (kind == Kind::kRuns) FillRuns(limbs);
+        if (kind == Kind::kOnes) std::fill(limbs.begin(), limbs.end(), ~Limb{0});
+        if (kind == Kind::kSingleBit) limbs[random_() % count] = Limb{1} << (random_() % kLimbBits);
+        if (kind == Kind::kRandom || kind == Kind::kZeroTop) {
+            const std::size_t zeros = kind == Kind::kZeroTop ? random_() % count : 0;
+            std::generate_n(limbs.begin(), count - zeros, std::ref(random_));
         }
         return limbs;
     }

@@ -71,9 +71,8 @@ class EveryStorage {
 
     void CallOnce(std::size_t blockCount, Edge edge) {
         // A result must not depend on what its storage held.
-        const auto filler = edge == Edge::kEndsAtPage     ? 0xA5A5A5A5U
-                            : edge == Edge::kBeginsAtPage ? 0xFFFFFFFFU
-                                                          : 0U;
+        constexpr std::uint32_t kFillers[] = {0xA5A5A5A5, 0xFFFFFFFF, 0};
+        const std::uint32_t filler = kFillers[static_cast<int>(edge)];
         std::array<WordList, kMaxParties> before;
         if (hasResult_) {
             before[blockOf_[operands_.size()]].assign(shape_.resultWords, {filler, filler});
@@ -110,33 +109,25 @@ class EveryStorage {
     }
 
     void CompareResult(const VectorWord* result, std::int64_t returned, Edge edge) {
+        const Vec found = Words(shape_.resultWidth, {result, result + shape_.resultWords});
         if (!isCalled_) {
             isCalled_ = true;
-            first_.assign(result, result + shape_.resultWords);
-            outcome_.result = Words(shape_.resultWidth, first_);
+            outcome_.result = found;
             outcome_.returned = returned;
         }
-        if (!AreSame(result, first_.data(), first_.size()) || returned != outcome_.returned) {
-            std::ostringstream out;
-            out << "another result, " << returned << " and "
-                << Words(shape_.resultWidth, {result, result + first_.size()});
-            Report(out.str(), edge);
-        }
+        if (found == outcome_.result && returned == outcome_.returned) return;
+        std::ostringstream out;
+        out << "another result, " << returned << " and " << found;
+        Report(out.str(), edge);
     }
 
-    // "(what) where {a result} {b} begin at a page": parties in one brace share storage.
+    // Names the block of each operand, then that of the result.
     void Report(const std::string& what, Edge edge) {
         constexpr const char* kPlaces[] = {"end at a page", "begin at a page", "end off a page"};
         if (!outcome_.broken.empty()) return;
-        outcome_.broken = what + " where";
-        for (std::size_t block = 0; block < partyCount_; ++block) {
-            std::string parties;
-            for (std::size_t i = 0; i < partyCount_; ++i) {
-                if (blockOf_[i] != block) continue;
-                parties += parties.empty() ? " {" : " ";
-                parties += i == operands_.size() ? "result" : std::string(1, "abcd"[i]);
-            }
-            outcome_.broken += parties.empty() ? "" : parties + "}";
+        outcome_.broken = what + " where blocks";
+        for (std::size_t party = 0; party < partyCount_; ++party) {
+            outcome_.broken += ' ' + std::to_string(blockOf_[party]);
         }
         outcome_.broken += std::string(" ") + kPlaces[static_cast<int>(edge)];
     }
@@ -153,7 +144,6 @@ class EveryStorage {
     std::size_t partyCount_ = 0;
     std::array<std::size_t, kMaxParties> blockOf_{};
     bool isCalled_ = false;
-    WordList first_;
     Outcome outcome_;
 };
 

@@ -70,22 +70,13 @@ std::uint64_t Gen::Bits() {
 }
 
 int Gen::Width() {
-    const int offset = Between(-1, 1);
+    const int offset = Between(-1, 1), choice = Below(16);
     if (isWide_) return 32 * Between(1000, 2000) + offset;
-    switch (Below(16)) {
-        case 0:
-        case 1:
-        case 2:
-            return Between(1, 31);
-        case 3:
-            return Between(1, 200);
-        case 4:
-            return 64 * Between(1, 4) + offset;
-        case 5:
-            return 256 * Between(1, 5) + offset;
-        default:
-            return 32 * Between(1, 5) + offset;
-    }
+    if (choice < 3) return Between(1, 31);
+    if (choice == 3) return Between(1, 200);
+    if (choice == 4) return 64 * Between(1, 4) + offset;
+    if (choice == 5) return 256 * Between(1, 5) + offset;
+    return 32 * Between(1, 5) + offset;
 }
 
 int Gen::AnyWidth() {
@@ -94,16 +85,9 @@ int Gen::AnyWidth() {
 }
 
 int Gen::RunLength() {
-    switch (Below(4)) {
-        case 0:
-            return Between(1, 3);
-        case 1:
-            return Between(1, 40);
-        case 2:
-            return 32 * Between(1, 9);
-        default:
-            return Between(1, isWide_ ? 20'000 : 300);
-    }
+    const int lengths[] = {Between(1, 3), Between(1, 40), 32 * Between(1, 9),
+                           Between(1, isWide_ ? 20'000 : 300)};
+    return lengths[Below(4)];
 }
 
 // Adds runs of ones (which count `weight` in a bit's number) between runs of zeros.
@@ -121,14 +105,8 @@ void Gen::AddRuns(Vec& vec, unsigned weight) {
 }
 
 Vec Gen::WithTop(Vec vec) {
-    switch (Below(4)) {
-        case 0:
-            return vec;
-        case 1:
-            return SignFilled(std::move(vec));
-        default:
-            return Clean(std::move(vec));
-    }
+    const int choice = Below(4);
+    return choice == 0 ? vec : choice == 1 ? SignFilled(std::move(vec)) : Clean(std::move(vec));
 }
 
 Vec Gen::FourState(int width) {
