@@ -34,7 +34,7 @@ constexpr char DigitCharacter(unsigned mask, unsigned aval, unsigned bval) noexc
 // The character of every digit of a base, at index bval << kBits | aval.
 template <class Layout>
 inline constexpr auto kDigitCharacters = [] {
-    constexpr unsigned kCount = 1U << Layout::kBits;
+    constexpr std::size_t kCount = std::size_t{1} << Layout::kBits;
     std::array<char, kCount * kCount> table{};
     for (unsigned bval = 0; bval < kCount; ++bval) {
         for (unsigned aval = 0; aval < kCount; ++aval) {

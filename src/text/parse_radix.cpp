@@ -65,7 +65,7 @@ struct BinaryBlock {
 
     static bool Read(const char* end, std::uint64_t* bits) noexcept {
         std::uint64_t value = 0, other = 0;
-        for (unsigned i = 0; i < 4; ++i) {
+        for (std::size_t i = 0; i < 4; ++i) {
             std::uint64_t eight;
             std::memcpy(&eight, end - kDigits + 8 * i, sizeof eight);
             eight ^= 0x3030303030303030;  // the bytes of eight zeros
