@@ -40,12 +40,12 @@ inline std::uint64_t BinaryDigits(std::uint32_t aval, std::uint32_t bval) noexce
 inline void WriteBinaryWord(char* end, Word word) noexcept {
     const std::uint32_t aval = Aval(word), bval = Bval(word);
     if (bval == 0) {
-        for (unsigned byte = 0; byte < 4; ++byte) {
+        for (std::size_t byte = 0; byte < 4; ++byte) {
             StoreEight(end - 8 * (byte + 1), kEightZeros | kSpreadBits[(aval >> 8 * byte) & 0xFF]);
         }
         return;
     }
-    for (unsigned byte = 0; byte < 4; ++byte) {
+    for (std::size_t byte = 0; byte < 4; ++byte) {
         StoreEight(end - 8 * (byte + 1), BinaryDigits(aval >> 8 * byte, bval >> 8 * byte));
     }
 }
