@@ -34,8 +34,9 @@ bool PackKnown(Limb* limbs, const VectorWord* words, std::size_t count) noexcept
 // limbs = 2^(32 * wordCount) - limbs, for the LimbCount(wordCount) limbs of a value of these words.
 void NegateLimbs(Limb* limbs, std::size_t wordCount) noexcept;
 
-// A whole number with its sign: limbs[0 .. count) without zeros at the top. Passed by reference: a copy
-// would read its fields back with wider loads than they were just written with, and wait for that.
+// A whole number with its sign: limbs[0 .. count) without zeros at the top. Passed by reference: a
+// copy would read its fields back with wider loads than they were just written with, and wait for
+// that.
 struct Whole {
     Limb* limbs;
     std::size_t count;
@@ -48,8 +49,8 @@ struct Whole {
 template <class Extend>
 bool PackWhole(Whole* whole, Limb* limbs, Operand operand, std::size_t wordCount) noexcept;
 
-// result = value, continued above its limbs by its sign and cut where the result ends. The limbs of a
-// negative value are destroyed.
+// result = value, continued above its limbs by its sign and cut where the result ends. The limbs of
+// a negative value are destroyed.
 void StoreWhole(Result result, const Whole& value) noexcept;
 
 }  // namespace tarn

@@ -179,8 +179,12 @@ bool ParseNumberLiteral(const char* sizeText, std::string_view text, const Liter
         truncated = needed > TARN_MAX_LITERAL_WIDTH;
         width = truncated ? TARN_MAX_LITERAL_WIDTH : static_cast<int>(needed);
     }
+    // The limit's verdict stands where the digits give none.
+    output.StoreTruncated(truncated);
     const Fit fit = ParseDigits(prefix.base, output.Allocate(width), prefix.digits);
-    output.StoreTruncated(fit == Fit::kUnsettled ? truncated : fit == Fit::kTruncated);
+    if (fit != Fit::kUnsettled) {
+        output.StoreTruncated(fit == Fit::kTruncated);
+    }
     return prefix.isSigned;
 }
 

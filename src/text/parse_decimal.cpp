@@ -117,8 +117,8 @@ Fit ParseLong(Result result, std::string_view digits) {
         FillWords(result.words, result.Count(), 0);
         return Fit::kUnsettled;
     }
-    // 10^width is a multiple of 2^width and greater: digits in front of the last `width` ones change
-    // nothing but the verdict.
+    // 10^width is a multiple of 2^width and greater: digits in front of the last `width` ones
+    // change nothing but the verdict.
     const auto width = static_cast<std::size_t>(result.width);
     const bool isCut = count > width;
     if (isCut) {

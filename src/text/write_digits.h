@@ -121,8 +121,8 @@ inline ShortField ReadShortField(const VectorWord* words, std::size_t bit,
     return {(PackWords(low, high) >> offset) & mask, (JoinBvals(low, high) >> offset) & mask};
 }
 
-// Eight known octal digits from 24 bits, in text order. Groups of 12, then 6, then 3 bits move apart
-// until each has a byte.
+// Eight known octal digits from 24 bits, in text order. Groups of 12, then 6, then 3 bits move
+// apart until each has a byte.
 inline std::uint64_t KnownOctalDigits(std::uint64_t bits) noexcept {
     bits = (bits | bits << 20) & 0x00000FFF00000FFF;
     bits = (bits | bits << 10) & 0x003F003F003F003F;
