@@ -74,7 +74,7 @@ std::string DrawText(Gen& gen, int width, std::string_view digits, int bitsPerDi
     bool isMixed = false;
     for (int left = gen.Below(gen.OneIn(4) ? 6 : width / bitsPerDigit + 6); left > 0; --left) {
         if (gen.OneIn(20)) isMixed = !isMixed;
-        text += pick(isMixed && gen.OneIn(3) ? kOthers : digits);
+        text += pick(gen.OneIn(isMixed ? 3 : 40) ? kOthers : digits);
     }
     return text;
 }
