@@ -68,7 +68,7 @@ Vec PackedValue(int width, const std::string& characters) {
 // Stretches of digits alone and stretches with other characters among them, together up to a
 // little more than the width holds.
 std::string DrawText(Gen& gen, int width, std::string_view digits, int bitsPerDigit) {
-    constexpr std::string_view kOthers = "__xXzZ?__289gG/: \xE9";
+    constexpr std::string_view kOthers = "__xXzZ?__2389gG/: \xE9";
     const auto pick = [&](std::string_view set) { return set[gen.Bits() % set.size()]; };
     std::string text;
     bool isMixed = false;
