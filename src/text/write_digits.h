@@ -3,6 +3,8 @@
 #ifndef TARN_TEXT_WRITE_DIGITS_H
 #define TARN_TEXT_WRITE_DIGITS_H
 
+#include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 #include "arith/pack.h"
@@ -222,8 +224,9 @@ inline char* WriteDigits(Octal, char* end, const VectorWord* words,
                          std::size_t digitCount) noexcept {
     std::size_t bit = 0;
     std::size_t left = digitCount;
-    for (; left >= 8; left -= 8, bit += 8 * Octal::kBits) {
-        const ShortField field = ReadShortField(words, bit, 8 * Octal::kBits);
+    constexpr unsigned kBlockBits = 8 * Octal::kBits;
+    for (; left >= 8; left -= 8, bit += kBlockBits) {
+        const ShortField field = ReadShortField(words, bit, kBlockBits);
         if (field.bval == 0) {
             end -= 8;
             StoreEight(end, KnownOctalDigits(field.aval));
