@@ -8,8 +8,12 @@ namespace tarn {
 
 template <class Extend>
 void CopyWide(Result result, Operand source) noexcept {
+    if (result.width <= source.width) {
+        CopyWords(result.words, source.words, result.Count());
+        return;
+    }
     const std::size_t count = result.Count();
-    const std::size_t shared = count < source.Count() ? count : source.Count();
+    const std::size_t shared = source.Count();
     const Word beyond = ExtensionWord<Extend>(source);
     CopyWords(result.words, source.words, shared);
     FillWords(result.words + shared, count - shared, beyond);
