@@ -33,7 +33,7 @@ constexpr Contestant kInteger64 = WritesLimbs<LimbOfValue<kLongInteger>>("value"
 constexpr Contestant kField = WritesWords<FieldBitByBit>("bit by bit");
 constexpr Contestant kMixedText = ReturnsText<MixedDigits>("digit by digit");
 
-// The portable form of addition has the carry chain of one limb at a time; the vector form that the
+// The portable form of addition has a carry chain of one word at a time; the vector form that the
 // lower limit is meant for needs AVX-512.
 double WideSumLimit() {
 #if defined(__x86_64__)
