@@ -3,6 +3,7 @@
 #include <tarnlib/select.h>
 
 #include "core/contract.h"
+#include "core/funnel.h"
 #include "core/words.h"
 
 namespace tarn {
@@ -17,10 +18,7 @@ void ReadField(VectorWord* result, const VectorWord* source, unsigned offset, in
         StoreWord(result + last, top);
         return;
     }
-    // Both words are loaded anew in each step: with one carried over the loop would not vectorise.
-    for (std::size_t i = 0; i < last; ++i) {
-        StoreWord(result + i, JoinWords(LoadWord(source + i), LoadWord(source + i + 1), offset));
-    }
+    FunnelUp<Overwrite>(result, source, last, offset);
     // The top result word needs the next source word only where the field reaches into it.
     const unsigned topBits = (static_cast<unsigned>(width) - 1U) % 32U + 1U;
     const Word high = offset + topBits > 32U ? LoadWord(source + last + 1) : Word{0};
