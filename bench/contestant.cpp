@@ -1,5 +1,6 @@
 #include "contestant.h"
 
+#include <bit>
 #include <cstring>
 
 namespace tarn::bench {
@@ -8,6 +9,19 @@ std::string ResultBytes(const Operands& operands) {
     std::string bytes(operands.wordCount * sizeof(VectorWord), '\0');
     std::memcpy(bytes.data(), operands.result, bytes.size());
     return bytes;
+}
+
+std::string MemoryBytes(const Operands& operands) {
+    return {operands.resultMemory, operands.resultMemory + operands.memoryByteCount};
+}
+
+std::string CodeText(int code) {
+    return std::to_string(code);
+}
+
+// Its bits, which tell all reals apart.
+std::string RealText(double real) {
+    return std::to_string(std::bit_cast<std::uint64_t>(real));
 }
 
 void UnpackResultLimbs(const Operands& operands) {

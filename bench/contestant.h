@@ -13,7 +13,8 @@ namespace tarn::bench {
 struct Contestant {
     const char* name;
     void (*measure)(benchmark::State& state, const Operands& operands);
-    // The bytes of the result words, or the text; null for a contestant that computes nothing.
+    // What a call writes, as bytes, or returns, as text; null for a contestant that computes
+    // nothing.
     std::string (*outcome)(const Operands& operands);
 };
 
@@ -34,6 +35,9 @@ void Measure(benchmark::State& state, const Operands& operands) {
 }
 
 std::string ResultBytes(const Operands& operands);
+std::string MemoryBytes(const Operands& operands);
+std::string CodeText(int code);
+std::string RealText(double real);
 void UnpackResultLimbs(const Operands& operands);
 std::string DigitText(const Operands& operands, std::size_t digitCount);
 
@@ -44,6 +48,60 @@ constexpr Contestant WritesWords(const char* name) {
                 ResetResults(operands);
                 static_cast<void>(kCall(operands));
                 return ResultBytes(operands);
+            }};
+}
+
+// A call that writes operands.result and returns a code.
+template <auto kCall>
+constexpr Contestant WritesWordsWithCode(const char* name) {
+    return {name, Measure<kCall>, [](const Operands& operands) {
+                ResetResults(operands);
+                const int code = kCall(operands);
+                return CodeText(code) + ' ' + ResultBytes(operands);
+            }};
+}
+
+// A call that writes operands.resultMemory.
+template <auto kCall>
+constexpr Contestant WritesMemory(const char* name) {
+    return {name, Measure<kCall>, [](const Operands& operands) {
+                ResetResults(operands);
+                static_cast<void>(kCall(operands));
+                return MemoryBytes(operands);
+            }};
+}
+
+// A call that writes operands.resultMemory and returns a code.
+template <auto kCall>
+constexpr Contestant WritesMemoryWithCode(const char* name) {
+    return {name, Measure<kCall>, [](const Operands& operands) {
+                ResetResults(operands);
+                const int code = kCall(operands);
+                return CodeText(code) + ' ' + MemoryBytes(operands);
+            }};
+}
+
+// A call that returns a code.
+template <auto kCall>
+constexpr Contestant ReturnsCode(const char* name) {
+    return {name, Measure<kCall>,
+            [](const Operands& operands) { return CodeText(kCall(operands)); }};
+}
+
+// A call that returns a real.
+template <auto kCall>
+constexpr Contestant ReturnsReal(const char* name) {
+    return {name, Measure<kCall>,
+            [](const Operands& operands) { return RealText(kCall(operands)); }};
+}
+
+// A call that writes operands.resultReal.
+template <auto kCall>
+constexpr Contestant WritesReal(const char* name) {
+    return {name, Measure<kCall>, [](const Operands& operands) {
+                ResetResults(operands);
+                kCall(operands);
+                return RealText(*operands.resultReal);
             }};
 }
 

@@ -31,9 +31,110 @@ void OfValue(const Operands& o) {
     kExport(o.width, o.result, kValue);
 }
 
+// Equality and relation.
 template <auto kExport>
-void OfField(const Operands& o) {
-    kExport(o.result, o.mixed, kFieldOffset, o.width);
+int Compare(const Operands& o) {
+    return kExport(o.width, o.a, o.bWidth, o.b);
+}
+
+// Reductions and other readings of one operand: a code, or a real.
+template <auto kExport>
+auto Read(const Operands& o) {
+    return kExport(o.width, o.a);
+}
+
+// Two operands of one width.
+template <auto kExport>
+int CompareSameWidth(const Operands& o) {
+    return kExport(o.width, o.a, o.b);
+}
+
+// The bit at which a field would start.
+template <auto kExport>
+int ReadBit(const Operands& o) {
+    return kExport(o.width, o.a, static_cast<int>(o.fieldOffset));
+}
+
+template <auto kExport>
+void Shift(const Operands& o) {
+    kExport(o.width, o.result, o.width, o.a, o.amount);
+}
+
+template <auto kExport>
+void ReadField(const Operands& o) {
+    kExport(o.result, o.a, o.fieldOffset, o.bWidth);
+}
+
+// The same field by its index in the vector.
+template <auto kExport>
+void ReadIndexedField(const Operands& o) {
+    kExport(o.result, o.width, o.a, static_cast<int>(o.fieldOffset), o.bWidth);
+}
+
+// A write returns nothing or a flag.
+template <auto kExport>
+auto WriteField(const Operands& o) {
+    return kExport(o.result, o.b, o.fieldOffset, o.bWidth);
+}
+
+template <auto kExport>
+auto WriteIndexedField(const Operands& o) {
+    return kExport(o.width, o.result, o.b, static_cast<int>(o.fieldOffset), o.bWidth);
+}
+
+// Two writes, each of which changes the field but for the first of all.
+template <auto kExport>
+int ChangeFieldTwice(const Operands& o) {
+    const int first = kExport(o.result, o.a, o.fieldOffset, o.bWidth);
+    return first + kExport(o.result, o.b, o.fieldOffset, o.bWidth);
+}
+
+// Two writes that change nothing but the first of all.
+template <auto kExport>
+int KeepFieldTwice(const Operands& o) {
+    const int first = kExport(o.result, o.b, o.fieldOffset, o.bWidth);
+    return first + kExport(o.result, o.b, o.fieldOffset, o.bWidth);
+}
+
+// b is concatenated into zeros.
+template <auto kExport>
+void PlaceField(const Operands& o) {
+    kExport(static_cast<int>(o.fieldOffset) + o.bWidth, o.result, o.bWidth, o.b, o.fieldOffset);
+}
+
+template <auto kExport>
+void UnpackMemory(const Operands& o) {
+    kExport(o.width, o.result, o.width, o.memory, -o.width & 31);
+}
+
+template <auto kExport>
+auto PackMemory(const Operands& o) {
+    return kExport(o.width, o.resultMemory, o.a);
+}
+
+template <auto kExport>
+void ReadMemoryField(const Operands& o) {
+    kExport(o.result, o.width, o.memory, static_cast<int>(o.fieldOffset), o.bWidth);
+}
+
+template <auto kExport>
+auto WriteMemoryField(const Operands& o) {
+    return kExport(o.width, o.resultMemory, o.b, static_cast<int>(o.fieldOffset), o.bWidth);
+}
+
+template <auto kExport, int kArgument = kBelowOne>
+void VectorOfReal(const Operands& o) {
+    kExport(o.width, o.result, o.reals[kArgument]);
+}
+
+template <auto kExport, int kArgument = kBelowOne>
+void OfReal(const Operands& o) {
+    kExport(o.resultReal, o.reals[kArgument]);
+}
+
+template <auto kExport, int kArgument = kBelowOne>
+void OfTwoReals(const Operands& o) {
+    kExport(o.resultReal, o.reals[kArgument], o.reals[kAboveOne]);
 }
 
 inline constexpr int kAllDigits = -1;

@@ -4,17 +4,10 @@
 #include <bit>
 #include <utility>
 
+#include "bits.h"
+
 namespace tarn::bench {
 namespace {
-
-struct Bit {
-    std::uint32_t aval, bval;
-};
-
-Bit BitOf(const VectorWord* words, int index) {
-    const VectorWord& word = words[index / 32];
-    return {(word.aval >> (index % 32)) & 1U, (word.bval >> (index % 32)) & 1U};
-}
 
 // The digit whose bits are [first, last) of the words.
 char MixedDigit(const VectorWord* words, int first, int last) {
@@ -46,16 +39,6 @@ void PowerLimbs(const Operands& o) {
         std::swap(product, power);
     }
     if (power != o.resultLimbs) mpn_copyi(o.resultLimbs, power, o.limbCount);
-}
-
-void FieldBitByBit(const Operands& o) {
-    std::fill_n(o.result, o.wordCount, VectorWord{0, 0});
-    for (int i = 0; i < o.width; ++i) {
-        const Bit bit = BitOf(o.mixed, i + static_cast<int>(kFieldOffset));
-        VectorWord& word = o.result[i / 32];
-        word.aval |= bit.aval << (i % 32);
-        word.bval |= bit.bval << (i % 32);
-    }
 }
 
 std::string MixedDigits(const Operands& o) {

@@ -19,6 +19,38 @@ inline void CopyBytes(const Operands& o) {
     std::memcpy(o.result, o.a, o.wordCount * sizeof(VectorWord));
 }
 
+inline void CopyFieldBytes(const Operands& o) {
+    std::memcpy(o.result, o.b, o.bWordCount * sizeof(VectorWord));
+}
+
+inline void CopyMemoryBytes(const Operands& o) {
+    std::memcpy(o.resultMemory, o.memory, o.memoryByteCount);
+}
+
+// Reads all of both operands where these are equal.
+inline int CompareBytes(const Operands& o) {
+    return std::memcmp(o.a, o.b, o.wordCount * sizeof(VectorWord));
+}
+
+// A math function may cost three calls more behind an export.
+inline void CallNothingThrice(const Operands& o) {
+    CallNothing(o);
+    CallNothing(o);
+    CallNothing(o);
+}
+
+template <auto kFunction, int kArgument = kBelowOne>
+void UnaryMath(const Operands& o) {
+    CallNothingThrice(o);
+    *o.resultReal = kFunction(o.reals[kArgument]);
+}
+
+template <auto kFunction, int kArgument = kBelowOne>
+void BinaryMath(const Operands& o) {
+    CallNothingThrice(o);
+    *o.resultReal = kFunction(o.reals[kArgument], o.reals[kAboveOne]);
+}
+
 template <auto kFunction>
 mp_limb_t BinaryLimbs(const Operands& o) {
     return kFunction(o.resultLimbs, o.aLimbs, o.bLimbs, o.limbCount);
@@ -76,9 +108,6 @@ void LimbOfValue(const Operands& o) {
     // Widths above 64 bits are not for this one: it extends no further than its limb.
     o.resultLimbs[0] = static_cast<mp_limb_t>(kValue);
 }
-
-// The field that starts at kFieldOffset, bit by bit.
-void FieldBitByBit(const Operands& o);
 
 // The digits of the mixed value, digit by digit.
 std::string MixedDigits(const Operands& o);

@@ -48,6 +48,7 @@ std::optional<double> RatioTable::Growth(const Row& before, const Row& row) cons
     const auto timeBefore = TimeOf(before, before.Ours());
     const auto time = TimeOf(row, row.Ours());
     if (&before.Of() != &row.Of() || !timeBefore || !time) return std::nullopt;
+    if (before.SharesOursWith(row)) return std::nullopt;
     const double doublings = std::log2(static_cast<double>(row.Width()) / before.Width());
     return std::pow(*time / *timeBefore, 1 / doublings);
 }

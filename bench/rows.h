@@ -24,6 +24,11 @@ class Row {
     // "UnsignedAdd/64/floor": what the benchmark of a contestant is called.
     std::string BenchmarkName(const Contestant& contestant) const;
 
+    // Whether this is the same operation at the same width, against another peer.
+    bool SharesOursWith(const Row& other) const {
+        return operation_ == other.operation_ && width_ == other.width_;
+    }
+
     // Whether one call of ours has the outcome of the oracle.
     bool IsRight() const;
 
@@ -36,7 +41,8 @@ class Row {
 // All rows of the list of operations, in its order.
 std::vector<Row> MakeRows();
 
-// Makes the two benchmarks of each row known. The rows stay where they are while these run.
+// Makes the benchmarks of ours and of the peer of each row known. The rows stay where they are
+// while these run.
 void RegisterBenchmarks(const std::vector<Row>& rows);
 
 }  // namespace tarn::bench
