@@ -166,8 +166,7 @@ std::string CallForText(const Vec& value,
 }
 
 std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
-    out << outcome.result;
-    if (outcome.returned != 0) out << ", returned " << outcome.returned;
+    out << outcome.result << ", returned " << outcome.returned;
     return outcome.broken.empty() ? out : out << "; but " << outcome.broken;
 }
 

@@ -25,6 +25,10 @@ struct Outcome {
     friend bool operator==(const Outcome& outcome, const Vec& expected) {
         return outcome.broken.empty() && outcome.result == expected;
     }
+    // What an export returned that writes no vector.
+    friend bool operator==(const Outcome& outcome, std::int64_t expected) {
+        return outcome == Vec{} && outcome.returned == expected;
+    }
     friend std::ostream& operator<<(std::ostream& out, const Outcome& outcome);
 };
 
@@ -63,6 +67,8 @@ inline constexpr bool kIsChecked = false;
 using TwoOperands = void(int, VectorWord*, int, const VectorWord*, int, const VectorWord*);
 using OneOperand = void(int, VectorWord*, int, const VectorWord*);
 using InPlace = void(int, VectorWord*);
+using ReducesOperand = int(int, const VectorWord*);
+using ComparesOperands = int(int, const VectorWord*, int, const VectorWord*);
 template <class Value>
 using FromScalar = void(int, VectorWord*, Value);
 
@@ -88,6 +94,20 @@ inline Outcome Call(InPlace* function, const Vec& v) {
                               [&](VectorWord* result, const VectorWord* const*) {
                                   function(v.width, result);
                                   return 0;
+                              });
+}
+
+inline Outcome Call(ReducesOperand* function, const Vec& a) {
+    return CallInEveryStorage({0, 0, ResultPlace::kNone, {&a}},
+                              [&](VectorWord*, const VectorWord* const* operands) {
+                                  return function(a.width, operands[0]);
+                              });
+}
+
+inline Outcome Call(ComparesOperands* function, const Vec& a, const Vec& b) {
+    return CallInEveryStorage({0, 0, ResultPlace::kNone, {&a, &b}},
+                              [&](VectorWord*, const VectorWord* const* operands) {
+                                  return function(a.width, operands[0], b.width, operands[1]);
                               });
 }
 
