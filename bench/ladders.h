@@ -133,6 +133,11 @@ inline const Ladder kFieldCopy = {{1, 32, kFloor, 2.5},
 inline const Ladder kMemoryCopy = WithTail(
     kUnlimited, {{128, 512, kMemoryMemcpy, kNoLimit}, {4096, kWidest, kMemoryMemcpy, 2.5}});
 
+// To be at least as fast as a peer that computes the same, at `from` bits and more.
+inline Ladder NoSlowerThan(const Contestant& peer, int from = 1) {
+    return {{from, kWidest, peer, 1.0}};
+}
+
 // Writes with the flag, for KeepFieldTwice: against writes that do change something.
 template <auto kExport>
 Ladder AgainstChanges() {
