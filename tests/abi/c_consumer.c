@@ -33,6 +33,14 @@ static void CheckArithmetic(void) {
     CHECK(sum.aval == 0xFF);
 }
 
+static void CheckLogic(void) {
+    VectorWord merged = {0, 0};
+    const VectorWord a = {0x3, 0}, b = {0x5, 0};
+    tarn_UnsignedConditionalMix(4, &merged, 4, &a, 4, &b);
+    CHECK(merged.aval == 0x7 && merged.bval == 0x6);
+    CHECK(tarn_ReductionXOR(4, &merged) == TARN_LOGIC_X && tarn_CheckCondition(4, &merged) == 1);
+}
+
 static void CheckSelects(void) {
     VectorWord field = {0, 0};
     const VectorWord source[2] = {{0xC0000000, 0x80000000}, {2, 0}};
@@ -62,6 +70,7 @@ static void CheckText(void) {
 int main(void) {
     CheckVectors();
     CheckArithmetic();
+    CheckLogic();
     CheckSelects();
     CheckText();
     return failures > 0;
