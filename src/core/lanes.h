@@ -31,8 +31,12 @@ TARN_KERNEL void StoreLanes(VectorWord* to, const AnyLanes& lanes) noexcept {
     std::memcpy(to, &lanes, sizeof lanes);
 }
 
+TARN_KERNEL Word FoldLanes(const Lanes& lanes) noexcept {
+    return lanes[0] | lanes[1] | lanes[2] | lanes[3];
+}
+
 TARN_KERNEL bool IsAnyLaneSet(const Lanes& lanes) noexcept {
-    return (lanes[0] | lanes[1] | lanes[2] | lanes[3]) != 0;
+    return FoldLanes(lanes) != 0;
 }
 
 }  // namespace tarn

@@ -1,5 +1,7 @@
 #include "core/words.h"
 
+#include "core/lanes.h"
+
 namespace tarn {
 
 void FillLongRun(VectorWord* to, std::size_t count, Word word) noexcept {
@@ -8,22 +10,43 @@ void FillLongRun(VectorWord* to, std::size_t count, Word word) noexcept {
     }
 }
 
-bool HasUnknownLongRun(const VectorWord* words, std::size_t count) noexcept {
-    // A block without a branch vectorises; a test after each keeps an early unknown bit cheap.
-    constexpr std::size_t kBlock = 32;
-    for (; count >= kBlock; count -= kBlock, words += kBlock) {
-        Word all = 0;
-#pragma GCC unroll 32
-        for (std::size_t i = 0; i < kBlock; ++i) {
-            all |= LoadWord(words + i);
+namespace {
+
+TARN_KERNEL void Collect(const VectorWord* words, Lanes& all) noexcept {
+    Lanes lanes;
+    LoadLanes(lanes, words);
+    all |= lanes;
+}
+
+// At least one group of lanes.
+struct HasUnknownKernel {
+    TARN_KERNEL static bool Run(const VectorWord* words, std::size_t count) noexcept {
+        // A test after each block keeps an early unknown bit cheap.
+        constexpr std::size_t kBlock = 16 * kLaneCount;
+        Lanes all{};
+        std::size_t i = 0;
+        for (; count - i >= kBlock; i += kBlock) {
+#pragma GCC unroll 4
+            for (std::size_t k = 0; k < kBlock; k += kLaneCount) {
+                Collect(words + i + k, all);
+            }
+            if (IsUnknown(FoldLanes(all))) return true;
         }
-        if (IsUnknown(all)) return true;
+        for (; count - i >= kLaneCount; i += kLaneCount) {
+            Collect(words + i, all);
+        }
+        // The last words; some were collected before, which changes nothing.
+        Collect(words + count - kLaneCount, all);
+        return IsUnknown(FoldLanes(all));
     }
-    Word rest = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        rest |= LoadWord(words + i);
-    }
-    return IsUnknown(rest);
+};
+
+}  // namespace
+
+static_assert(kShortRun >= kLaneCount);
+
+bool HasUnknownLongRun(const VectorWord* words, std::size_t count) noexcept {
+    return RunKernel<HasUnknownKernel>(words, count);
 }
 
 }  // namespace tarn
