@@ -35,6 +35,7 @@ TEST(CheckedDeathTest, ReportsArgumentsOutOfRange) {
     VectorWord words[2] = {};
     EXPECT_DEATH(tarn_Partselect(words, words, 32, 1),
                  "tarn_Partselect.*offset < 32U.*offset = 32, width = 1");
+    EXPECT_DEATH(tarn_UnsignedEq(8, words, 0, words), "tarn_UnsignedEq.*bWidth >= 1.*bWidth = 0");
     EXPECT_DEATH(tarn_CopyToGlobalBuffer(nullptr), "tarn_CopyToGlobalBuffer.*text = 0");
 }
 
