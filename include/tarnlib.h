@@ -28,8 +28,8 @@
  *  holds in the normal build; the checked build reports it.
  *
  *  Family headers: tarnlib/vector.h (the vector, copies and conversions, exported data),
- *  tarnlib/arith.h, tarnlib/logic.h, tarnlib/compare.h, tarnlib/select.h, tarnlib/text.h. Each can
- *  be included on its own. */
+ *  tarnlib/arith.h, tarnlib/logic.h, tarnlib/compare.h, tarnlib/select.h, tarnlib/shift.h,
+ *  tarnlib/text.h. Each can be included on its own. */
 #ifndef TARNLIB_H
 #define TARNLIB_H
 
@@ -37,6 +37,7 @@
 #include <tarnlib/compare.h>
 #include <tarnlib/logic.h>
 #include <tarnlib/select.h>
+#include <tarnlib/shift.h>
 #include <tarnlib/text.h>
 #include <tarnlib/vector.h>
 #include <tarnlib/version.h>
