@@ -5,56 +5,75 @@
 namespace tarn {
 namespace {
 
-// One block is loaded whole before it is stored, so a run may be moved onto itself.
-inline constexpr std::size_t kBlock = 4 * kLaneCount;
+TARN_KERNEL void JoinLanes(HalfLanes& joined, const VectorWord* from, unsigned offset) noexcept {
+    HalfLanes low, high;
+    LoadLanes(low, from);
+    LoadLanes(high, from + 1);
+    joined = (low >> offset) | (high << (32 - offset));
+}
 
 template <class Policy>
-TARN_KERNEL void FunnelBlock(VectorWord* to, const VectorWord* from, unsigned offset,
-                             HalfLanes& changed) noexcept {
-    constexpr std::size_t kSteps = kBlock / kLaneCount;
-    HalfLanes joined[kSteps];
-#pragma GCC unroll 4
-    for (std::size_t k = 0; k < kSteps; ++k) {
-        HalfLanes low, high;
-        LoadLanes(low, from + k * kLaneCount);
-        LoadLanes(high, from + k * kLaneCount + 1);
-        joined[k] = (low >> offset) | (high << (32 - offset));
-    }
-#pragma GCC unroll 4
-    for (std::size_t k = 0; k < kSteps; ++k) {
-        if constexpr (Policy::kCompares) {
-            HalfLanes old;
-            LoadLanes(old, to + k * kLaneCount);
-            changed |= old ^ joined[k];
-        }
-        StoreLanes(to + k * kLaneCount, joined[k]);
+TARN_KERNEL void CompareLanes(const VectorWord* to, const HalfLanes& lanes,
+                              HalfLanes& changed) noexcept {
+    if constexpr (Policy::kCompares) {
+        HalfLanes old;
+        LoadLanes(old, to);
+        changed |= old ^ lanes;
     }
 }
 
 TARN_KERNEL Word FoldLanes(const HalfLanes& halves) noexcept {
-    Word words[kLaneCount];
-    std::memcpy(words, &halves, sizeof words);
+    Lanes words;
+    std::memcpy(&words, &halves, sizeof words);
     return words[0] | words[1] | words[2] | words[3];
 }
 
-template <class Policy>
-TARN_KERNEL Word FunnelWord(VectorWord* to, const VectorWord* from, unsigned offset) noexcept {
-    return Replace<Policy>(to, JoinWords(LoadWord(from), LoadWord(from + 1), offset));
+// How many whole words lie between an address and the boundary of lanes below it.
+TARN_KERNEL std::size_t WordsPastBoundary(const VectorWord* at) noexcept {
+    return reinterpret_cast<std::uintptr_t>(at) % sizeof(HalfLanes) / sizeof(VectorWord);
 }
 
+// Joins kSteps lanes and then stores them.
+template <class Policy, std::size_t kSteps>
+TARN_KERNEL void FunnelBlock(VectorWord* to, const VectorWord* from, unsigned offset,
+                             HalfLanes& changed) noexcept {
+    HalfLanes joined[kSteps];
+#pragma GCC unroll 4
+    for (std::size_t k = 0; k < kSteps; ++k) {
+        JoinLanes(joined[k], from + k * kLaneCount, offset);
+        CompareLanes<Policy>(to + k * kLaneCount, joined[k], changed);
+    }
+#pragma GCC unroll 4
+    for (std::size_t k = 0; k < kSteps; ++k) {
+        StoreLanes(to + k * kLaneCount, joined[k]);
+    }
+}
+
+inline constexpr std::size_t kBlockSteps = 4;
+inline constexpr std::size_t kBlock = kBlockSteps * kLaneCount;
+
+// A long run in lanes alone. The lanes at either end are joined and compared before anything is
+// stored, and stored last: they cover the words that those in between, which begin or end where
+// `to` is aligned, leave over.
 template <class Policy>
 struct FunnelUpKernel {
     TARN_KERNEL static Word Run(VectorWord* to, const VectorWord* from, std::size_t count,
                                 unsigned offset) noexcept {
-        HalfLanes changed{};
-        for (; count >= kBlock; count -= kBlock, to += kBlock, from += kBlock) {
-            FunnelBlock<Policy>(to, from, offset, changed);
+        HalfLanes lowest, highest, changed{};
+        JoinLanes(lowest, from, offset);
+        JoinLanes(highest, from + count - kLaneCount, offset);
+        CompareLanes<Policy>(to, lowest, changed);
+        CompareLanes<Policy>(to + count - kLaneCount, highest, changed);
+        std::size_t i = (kLaneCount - WordsPastBoundary(to)) % kLaneCount;
+        for (; i + kBlock <= count; i += kBlock) {
+            FunnelBlock<Policy, kBlockSteps>(to + i, from + i, offset, changed);
         }
-        Word changedAfter = 0;
-        for (std::size_t i = 0; i < count; ++i) {
-            changedAfter |= FunnelWord<Policy>(to + i, from + i, offset);
+        for (; i + kLaneCount <= count; i += kLaneCount) {
+            FunnelBlock<Policy, 1>(to + i, from + i, offset, changed);
         }
-        return FoldLanes(changed) | changedAfter;
+        StoreLanes(to, lowest);
+        StoreLanes(to + count - kLaneCount, highest);
+        return FoldLanes(changed);
     }
 };
 
@@ -62,23 +81,47 @@ template <class Policy>
 struct FunnelDownKernel {
     TARN_KERNEL static Word Run(VectorWord* to, const VectorWord* from, std::size_t count,
                                 unsigned offset) noexcept {
-        HalfLanes changed{};
-        for (; count >= kBlock; count -= kBlock) {
-            FunnelBlock<Policy>(to + count - kBlock, from + count - kBlock, offset, changed);
+        HalfLanes lowest, highest, changed{};
+        JoinLanes(lowest, from, offset);
+        JoinLanes(highest, from + count - kLaneCount, offset);
+        CompareLanes<Policy>(to, lowest, changed);
+        CompareLanes<Policy>(to + count - kLaneCount, highest, changed);
+        std::size_t i = count - WordsPastBoundary(to + count);
+        for (; i >= kBlock; i -= kBlock) {
+            FunnelBlock<Policy, kBlockSteps>(to + i - kBlock, from + i - kBlock, offset, changed);
         }
-        Word changedAfter = 0;
-        while (count-- > 0) {
-            changedAfter |= FunnelWord<Policy>(to + count, from + count, offset);
+        for (; i >= kLaneCount; i -= kLaneCount) {
+            FunnelBlock<Policy, 1>(to + i - kLaneCount, from + i - kLaneCount, offset, changed);
         }
-        return FoldLanes(changed) | changedAfter;
+        StoreLanes(to, lowest);
+        StoreLanes(to + count - kLaneCount, highest);
+        return FoldLanes(changed);
     }
 };
+
+// Some processors find a line in the first-level cache by a few bits of its address and take one
+// for another where these agree, which makes a walk several times as slow where each store falls on
+// the line that will be loaded next. Runs that lie apart are then walked in the other direction.
+bool IsStoredJustAhead(std::uintptr_t storedBytes, std::uintptr_t loadedBytes) noexcept {
+    constexpr std::uintptr_t kPage = 4096, kJust = 1024;
+    return (storedBytes - loadedBytes) % kPage - 1 < kJust;
+}
+
+bool AreRunsApart(std::uintptr_t to, std::uintptr_t from, std::size_t count) noexcept {
+    const std::uintptr_t bytes = (count + 1) * sizeof(VectorWord);
+    return to - from >= bytes && from - to >= bytes;
+}
 
 }  // namespace
 
 template <class Policy>
 Word FunnelUpLongRun(VectorWord* to, const VectorWord* from, std::size_t count,
                      unsigned offset) noexcept {
+    const auto stored = reinterpret_cast<std::uintptr_t>(to);
+    const auto loaded = reinterpret_cast<std::uintptr_t>(from);
+    if (IsStoredJustAhead(stored, loaded) && AreRunsApart(stored, loaded, count)) {
+        return RunKernel<FunnelDownKernel<Policy>>(to, from, count, offset);
+    }
     return RunKernel<FunnelUpKernel<Policy>>(to, from, count, offset);
 }
 
@@ -90,6 +133,11 @@ template Word FunnelUpLongRun<OverwriteAndCompare>(VectorWord*, const VectorWord
 template <class Policy>
 Word FunnelDownLongRun(VectorWord* to, const VectorWord* from, std::size_t count,
                        unsigned offset) noexcept {
+    const auto stored = reinterpret_cast<std::uintptr_t>(to);
+    const auto loaded = reinterpret_cast<std::uintptr_t>(from);
+    if (IsStoredJustAhead(loaded, stored) && AreRunsApart(stored, loaded, count)) {
+        return RunKernel<FunnelUpKernel<Policy>>(to, from, count, offset);
+    }
     return RunKernel<FunnelDownKernel<Policy>>(to, from, count, offset);
 }
 
