@@ -22,10 +22,10 @@ TARN_KERNEL void CompareLanes(const VectorWord* to, const HalfLanes& lanes,
     }
 }
 
-TARN_KERNEL Word FoldLanes(const HalfLanes& halves) noexcept {
-    Lanes words;
-    std::memcpy(&words, &halves, sizeof words);
-    return words[0] | words[1] | words[2] | words[3];
+TARN_KERNEL Word FoldHalves(const HalfLanes& halves) noexcept {
+    Lanes lanes;
+    std::memcpy(&lanes, &halves, sizeof lanes);
+    return FoldLanes(lanes);
 }
 
 // How many whole words lie between an address and the boundary of lanes below it.
@@ -73,7 +73,7 @@ struct FunnelUpKernel {
         }
         StoreLanes(to, lowest);
         StoreLanes(to + count - kLaneCount, highest);
-        return FoldLanes(changed);
+        return FoldHalves(changed);
     }
 };
 
@@ -95,7 +95,7 @@ struct FunnelDownKernel {
         }
         StoreLanes(to, lowest);
         StoreLanes(to + count - kLaneCount, highest);
-        return FoldLanes(changed);
+        return FoldHalves(changed);
     }
 };
 

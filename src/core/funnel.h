@@ -15,6 +15,12 @@ constexpr Word JoinWords(Word low, Word high, unsigned offset) noexcept {
     return fromLow | fromHigh;
 }
 
+// A word shifted away from bit 0 by 0 to 31 bits, aval and bval each for itself.
+constexpr Word ShiftWordUp(Word word, unsigned bits) noexcept {
+    return (word & kUnknownBits) << bits | Word{Aval(word) << bits};
+}
+
+static_assert(ShiftWordUp(MakeWord(0xC0000001, 0x80000003), 1) == MakeWord(0x80000002, 6));
 static_assert(JoinWords(MakeWord(0xC0000001, 0x80000000), MakeWord(0xE, 0x7), 30) ==
               MakeWord(0x3B, 0x1E));
 
@@ -36,7 +42,7 @@ inline Word Replace(VectorWord* to, Word word) noexcept {
 }
 
 // to[i] = JoinWords(from[i], from[i + 1], offset) for i from 0 to count - 1, so count + 1 words are
-// read. Returns the changed bits under OverwriteAndCompare, else 0. `to` lies apart from `from`; or
+// read, none for a count of 0. Returns the changed bits under OverwriteAndCompare, else 0. `to` lies apart from `from`; or
 // FunnelUp: at or below it; FunnelDown: above it. The second for a policy is instantiated in
 // funnel.cpp for both.
 template <class Policy>
@@ -48,14 +54,20 @@ Word FunnelDownLongRun(VectorWord* to, const VectorWord* from, std::size_t count
 
 inline constexpr std::size_t kShortFunnel = 4;
 
+// The loops of short runs have a constant bound and leave early, so that they become straight code.
 template <class Policy>
 inline Word FunnelUp(VectorWord* to, const VectorWord* from, std::size_t count,
                      unsigned offset) noexcept {
     if (count > kShortFunnel) return FunnelUpLongRun<Policy>(to, from, count, offset);
+    if (count == 0) return 0;
     Word changed = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        const Word joined = JoinWords(LoadWord(from + i), LoadWord(from + i + 1), offset);
-        changed |= Replace<Policy>(to + i, joined);
+    Word low = LoadWord(from);
+#pragma GCC unroll 4
+    for (std::size_t i = 0; i < kShortFunnel; ++i) {
+        if (i == count) break;
+        const Word high = LoadWord(from + i + 1);
+        changed |= Replace<Policy>(to + i, JoinWords(low, high, offset));
+        low = high;
     }
     return changed;
 }
@@ -64,10 +76,15 @@ template <class Policy>
 inline Word FunnelDown(VectorWord* to, const VectorWord* from, std::size_t count,
                        unsigned offset) noexcept {
     if (count > kShortFunnel) return FunnelDownLongRun<Policy>(to, from, count, offset);
+    if (count == 0) return 0;
     Word changed = 0;
-    for (std::size_t i = count; i-- > 0;) {
-        const Word joined = JoinWords(LoadWord(from + i), LoadWord(from + i + 1), offset);
-        changed |= Replace<Policy>(to + i, joined);
+    Word high = LoadWord(from + count);
+#pragma GCC unroll 4
+    for (std::size_t i = 1; i <= kShortFunnel; ++i) {
+        if (i > count) break;
+        const Word low = LoadWord(from + count - i);
+        changed |= Replace<Policy>(to + count - i, JoinWords(low, high, offset));
+        high = low;
     }
     return changed;
 }
