@@ -25,6 +25,7 @@ TARNLIB_API void tarn_LogicalShiftLeft(int resultWidth, VectorWord* result, int 
  *  result = source >> amount.
  *  widths    bits, at least 1. Above the source the result goes on with what moves in; of a source
  *            that reaches further than the result the low words of the shifted value are stored.
+ *            A source of width below 1 counts as 0.
  *  unknown   X and Z bits move as they are. What moves in: zeros (Logical), or the sign, bit 31 of
  *            the source's top word, aval and bval each by its own (Arithmetical), so that a sign
  *            of X moves in as X and one of Z as Z.

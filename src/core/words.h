@@ -26,13 +26,23 @@ inline void FillX(Result result) noexcept {
     FillWords(result.words, result.Count(), kAllX);
 }
 
-// to and from may be the same storage, or apart.
+// `to` lies apart from `from`; or CopyWords: at or below it; CopyWordsDown: at or above it.
 inline void CopyWords(VectorWord* to, const VectorWord* from, std::size_t count) noexcept {
     if (count > kShortRun) {
         std::memmove(to, from, count * sizeof(VectorWord));
         return;
     }
     for (std::size_t i = 0; i < count; ++i) {
+        StoreWord(to + i, LoadWord(from + i));
+    }
+}
+
+inline void CopyWordsDown(VectorWord* to, const VectorWord* from, std::size_t count) noexcept {
+    if (count > kShortRun) {
+        std::memmove(to, from, count * sizeof(VectorWord));
+        return;
+    }
+    for (std::size_t i = count; i-- > 0;) {
         StoreWord(to + i, LoadWord(from + i));
     }
 }
