@@ -8,6 +8,7 @@
 #ifndef TARN_CORE_CONTRACT_H
 #define TARN_CORE_CONTRACT_H
 
+#include <climits>
 #include <cstddef>
 #include <cstdint>
 
@@ -22,6 +23,12 @@ namespace tarn {
 
 inline bool IsVector(int width, const VectorWord* words) noexcept {
     return width < 1 || (words != nullptr && reinterpret_cast<std::uintptr_t>(words) % 4 == 0);
+}
+
+// The bits from bit 0 of a word to the top of a field that begins at one of its bits.
+constexpr int SpanFrom(unsigned offset, int width) noexcept {
+    const std::int64_t span = std::int64_t{width} + offset;
+    return static_cast<int>(span < INT_MAX ? span : INT_MAX);
 }
 
 // Whether two runs of words begin at the same word or share none; one without words shares none.

@@ -1,44 +1,106 @@
 #include "select/partselect.h"
 
-#include <tarnlib/select.h>
+#include <algorithm>
 
-#include "core/contract.h"
 #include "core/funnel.h"
 #include "core/words.h"
 
 namespace tarn {
+namespace {
 
-void ReadField(VectorWord* result, const VectorWord* source, unsigned offset, int width) noexcept {
+// How many bits of a width of at least 1 lie in its top word.
+int TopBits(int width) noexcept {
+    return (width - 1) % 32 + 1;
+}
+
+}  // namespace
+
+void ReadWideField(VectorWord* result, const VectorWord* source, unsigned offset,
+                   int width) noexcept {
     if (width < 1) return;
     const std::size_t last = WordCount(width) - 1;
-    const Word topMask = InBothHalves(LowMask(width));
     if (offset == 0) {
-        const Word top = LoadWord(source + last) & topMask;
         CopyWords(result, source, last);
-        StoreWord(result + last, top);
-        return;
+    } else {
+        FunnelUp<Overwrite>(result, source, last, offset);
     }
-    FunnelUp<Overwrite>(result, source, last, offset);
-    // The top result word needs the next source word only where the field reaches into it.
-    const unsigned topBits = (static_cast<unsigned>(width) - 1U) % 32U + 1U;
-    const Word high = offset + topBits > 32U ? LoadWord(source + last + 1) : Word{0};
-    StoreWord(result + last, JoinWords(LoadWord(source + last), high, offset) & topMask);
+    const Word top = ReadShortField(source + last, offset, TopBits(width), CleanCut(width));
+    StoreWord(result + last, top);
+}
+
+void ReadWideSignedField(Result result, const VectorWord* source, unsigned offset,
+                         int width) noexcept {
+    if (width < 1) return;
+    ReadField(result.words, source, offset, width);
+    const std::size_t count = WordCount(width);
+    VectorWord* const highest = result.words + count - 1;
+    const Word top = ReadShortField(highest, 0, TopBits(width), SignedCut(width));
+    StoreWord(highest, top);
+    if (result.Count() > count) {
+        FillWords(highest + 1, result.Count() - count, SignExtend::Beyond(top));
+    }
+}
+
+namespace {
+
+// The `count` bits of the source from bit 0 upward at bit `below` of the result, X below them and 0
+// above them in their last word. The walk goes down, so the result may be the source.
+void PlaceAboveX(VectorWord* result, const VectorWord* source, unsigned below,
+                 unsigned count) noexcept {
+    const std::size_t skipped = below / 32U;
+    const unsigned bits = below % 32U;
+    const std::size_t available = (count - 1U) / 32U + 1U;
+    const std::size_t top = (bits + count - 1U) / 32U;
+    const Word topMask = InBothHalves(LowMask(static_cast<int>(below + count)));
+    VectorWord* const lowest = result + skipped;
+    if (bits == 0) {
+        const Word highest = LoadWord(source + top) & topMask;
+        CopyWordsDown(lowest, source, top);
+        StoreWord(lowest + top, highest);
+    } else {
+        // The word below the source is X, the one above it 0.
+        const Word high = top < available ? LoadWord(source + top) : Word{0};
+        const Word low = top > 0 ? LoadWord(source + top - 1) : kAllX;
+        StoreWord(lowest + top, JoinWords(low, high, 32 - bits) & topMask);
+        if (top > 0) {
+            FunnelDown<Overwrite>(lowest + 1, source, top - 1, 32 - bits);
+            StoreWord(lowest, JoinWords(kAllX, LoadWord(source), 32 - bits));
+        }
+    }
+    FillWords(result, skipped, kAllX);
+}
+
+}  // namespace
+
+void ReadFieldAcrossEnds(VectorWord* result, Operand source, int index, int width) noexcept {
+    if (width < 1) return;
+    // Bit 0 of the source is bit `below` of the field; bit `end` of the field is the first that the
+    // source or the field does not have.
+    const std::int64_t below = -std::int64_t{index};
+    const std::int64_t end = std::min(below + source.width, std::int64_t{width});
+    unsigned filled = 0;
+    if (end > 0 && below < end) {
+        filled = static_cast<unsigned>(end);
+        if (below > 0) {
+            PlaceAboveX(result, source.words, static_cast<unsigned>(below),
+                        static_cast<unsigned>(end - below));
+        } else {
+            ReadField(result, source.words + index / 32, static_cast<unsigned>(index) % 32U,
+                      static_cast<int>(end));
+        }
+    }
+    const auto wanted = static_cast<unsigned>(width);
+    if (filled < wanted) {
+        const unsigned whole = filled / 32U * 32U;
+        FillWithX(result + filled / 32U, filled - whole, wanted - whole);
+    }
+}
+
+void FillWideWithX(VectorWord* words, unsigned first, unsigned end) noexcept {
+    const std::size_t last = (end - 1U) / 32U;
+    StoreWord(words, LoadWord(words) | InBothHalves(0xFFFFFFFFU << first));
+    FillWords(words + 1, last - 1, kAllX);
+    StoreWord(words + last, InBothHalves(LowMask(static_cast<int>(end))));
 }
 
 }  // namespace tarn
-
-using namespace tarn;
-
-extern "C" {
-
-void tarn_Partselect(VectorWord* result, const VectorWord* source, unsigned offset,
-                     int width) noexcept {
-    TARN_ARGUMENTS(result, source, offset, width);
-    TARN_REQUIRE(width >= 1);
-    TARN_REQUIRE(offset < 32U);
-    TARN_REQUIRE(IsVector(width, result) && IsVector(width, source));
-    TARN_REQUIRE(AreSameOrApart(width, result, width, source));
-    ReadField(result, source, offset, width);
-}
-
-}  // extern "C"
