@@ -1,10 +1,12 @@
-// Exports: reads of fields and bits.
+// Exports: reads of fields and bits, concatenation, rewriting.
 #include <algorithm>
 
 #include <tarnlib/select.h>
 
 #include "core/contract.h"
+#include "select/concatenate.h"
 #include "select/partselect.h"
+#include "select/rewrite.h"
 
 // Of a field the words that hold its bits count.
 #define TARN_REQUIRE_FIELD(resultWidth, result, source, offset, width) \
@@ -69,6 +71,41 @@ int tarn_SignedScanIndexOfSelect(int width, const VectorWord* index) noexcept {
 int tarn_UnsignedScanIndexOfSelect(int width, const VectorWord* index) noexcept {
     TARN_REQUIRE_INDEX(width, index);
     return IsUsableIndex<ZeroExtend>({width, index});
+}
+
+void tarn_Concatenate(int span, VectorWord* destination, int operandWidth,
+                      const VectorWord* operand, unsigned offset) noexcept {
+    TARN_ARGUMENTS(span, destination, operandWidth, operand, offset);
+    TARN_REQUIRE(span >= 1 && operandWidth >= 1);
+    TARN_REQUIRE(offset < 32U);
+    TARN_REQUIRE(IsVector(span, destination) && IsVector(operandWidth, operand));
+    TARN_REQUIRE(AreSameOrApart(std::min(span, SpanFrom(offset, operandWidth)), destination,
+                                operandWidth, operand));
+    Place(span, destination, {operandWidth, operand}, offset);
+}
+
+void tarn_ConcatenateShifted(int span, VectorWord* destination,
+                             const VectorWord* operand) noexcept {
+    TARN_ARGUMENTS(span, destination, operand);
+    TARN_REQUIRE(span >= 1);
+    TARN_REQUIRE(IsVector(span, destination) && IsVector(span, operand));
+    TARN_REQUIRE(AreSameOrApart(span, destination, span, operand));
+    PlaceShifted(span, destination, operand);
+}
+
+void tarn_Convert0ToZ(int width, VectorWord* v) noexcept {
+    TARN_REQUIRE_IN_PLACE(width, v);
+    Rewrite<ZeroToZ>({width, v});
+}
+
+void tarn_Convert1ToZ(int width, VectorWord* v) noexcept {
+    TARN_REQUIRE_IN_PLACE(width, v);
+    Rewrite<OneToZ>({width, v});
+}
+
+void tarn_ConvertXZTo0(int width, VectorWord* v) noexcept {
+    TARN_REQUIRE_IN_PLACE(width, v);
+    Rewrite<UnknownToZero>({width, v});
 }
 
 }  // extern "C"
