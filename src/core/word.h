@@ -49,6 +49,11 @@ constexpr bool IsUnknown(Word word) noexcept {
     return (word & kUnknownBits) != 0;
 }
 
+// The bits that are known ones: X and Z read as 0.
+constexpr std::uint32_t KnownOnes(Word word) noexcept {
+    return Aval(word) & ~Bval(word);
+}
+
 // The same 32 bits in both halves, as a mask for aval and bval alike.
 constexpr Word InBothHalves(std::uint32_t bits) noexcept {
     return MakeWord(bits, bits);

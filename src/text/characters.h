@@ -12,11 +12,6 @@ char* FormatCharacter(char character, bool spaceForNul);
 // The vector's bytes from the most significant one down; NULs show as spaces or are left out.
 char* FormatString(Operand value, bool spaceForNul);
 
-// The bits that are known ones: X and Z read as 0.
-constexpr std::uint32_t KnownOnes(Word word) noexcept {
-    return Aval(word) & ~Bval(word);
-}
-
 }  // namespace tarn
 
 #endif  // TARN_TEXT_CHARACTERS_H

@@ -3,7 +3,6 @@
 #define TARN_TEXT_MACHINE_INTEGER_H
 
 #include "core/vector.h"
-#include "text/characters.h"
 
 namespace tarn {
 
