@@ -29,13 +29,14 @@
  *
  *  Family headers: tarnlib/vector.h (the vector, copies and conversions, exported data),
  *  tarnlib/arith.h, tarnlib/logic.h, tarnlib/compare.h, tarnlib/select.h, tarnlib/shift.h,
- *  tarnlib/text.h. Each can be included on its own. */
+ *  tarnlib/real.h, tarnlib/text.h. Each can be included on its own. */
 #ifndef TARNLIB_H
 #define TARNLIB_H
 
 #include <tarnlib/arith.h>
 #include <tarnlib/compare.h>
 #include <tarnlib/logic.h>
+#include <tarnlib/real.h>
 #include <tarnlib/select.h>
 #include <tarnlib/shift.h>
 #include <tarnlib/text.h>

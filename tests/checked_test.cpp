@@ -37,6 +37,7 @@ TEST(CheckedDeathTest, ReportsArgumentsOutOfRange) {
                  "tarn_Partselect.*offset < 32U.*offset = 32, width = 1");
     EXPECT_DEATH(tarn_UnsignedEq(8, words, 0, words), "tarn_UnsignedEq.*bWidth >= 1.*bWidth = 0");
     EXPECT_DEATH(tarn_CopyToGlobalBuffer(nullptr), "tarn_CopyToGlobalBuffer.*text = 0");
+    EXPECT_DEATH(tarn_SignedConvertToReal(0, words), "tarn_SignedConvertToReal.*width = 0");
 }
 
 TEST(Checked, AcceptsTheWidestDecimalText) {

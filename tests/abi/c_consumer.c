@@ -48,6 +48,13 @@ static void CheckSelects(void) {
     CHECK(field.aval == 0xB && field.bval == 2);
 }
 
+static void CheckReals(void) {
+    VectorWord rounded = {7, 7};
+    tarn_ConvertToVector(8, &rounded, -2.5);
+    CHECK(rounded.aval == 0xFFFFFFFD && rounded.bval == 0);
+    CHECK(tarn_SignedConvertToReal(8, &rounded) == -3.0);
+}
+
 static VectorWord literalWords[2];
 
 static void* AllocateLiteral(uint64_t byteCount) {
@@ -72,6 +79,7 @@ int main(void) {
     CheckArithmetic();
     CheckLogic();
     CheckSelects();
+    CheckReals();
     CheckText();
     return failures > 0;
 }

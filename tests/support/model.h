@@ -27,7 +27,7 @@ inline Vec AllX(int width) {
     return Filled(width, Logic::kX);
 }
 
-// The storage of a known vector read as a number that is not negative.
+// The storage read as a number that is not negative; X and Z bits count as 0.
 inline mpz_class ToInteger(const Vec& vec) {
     mpz_class value;
     // From the top down, so that the number is allocated once.
