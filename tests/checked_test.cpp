@@ -38,6 +38,7 @@ TEST(CheckedDeathTest, ReportsArgumentsOutOfRange) {
     EXPECT_DEATH(tarn_UnsignedEq(8, words, 0, words), "tarn_UnsignedEq.*bWidth >= 1.*bWidth = 0");
     EXPECT_DEATH(tarn_CopyToGlobalBuffer(nullptr), "tarn_CopyToGlobalBuffer.*text = 0");
     EXPECT_DEATH(tarn_SignedConvertToReal(0, words), "tarn_SignedConvertToReal.*width = 0");
+    EXPECT_DEATH(tarn_PowerR(nullptr, 1.5, 2.0), "tarn_PowerR.*result = 0, x = 1.5, y = 2");
 }
 
 TEST(Checked, AcceptsTheWidestDecimalText) {

@@ -1,4 +1,4 @@
-// Vectors as reals and reals as vectors.
+// Vectors as reals, reals as vectors, and real functions.
 #include <bit>
 #include <cfenv>
 #include <cmath>
@@ -246,6 +246,95 @@ TEST(Real, KnownVectorsOfReals) {
     EXPECT_EQ(Call(tarn_ConvertToVector, 100, -1.0), Words(100, {4, {~0U, 0}}));
     EXPECT_EQ(Call(tarn_TruncatedConvertToVector, 32, 2.7), "32'h2"_v);
     EXPECT_EQ(Call(tarn_TruncatedConvertToVector, 8, -2.7), Words(8, {{0xFFFFFFFE, 0}}));
+}
+
+const double kSpecialReals[] = {0.0,        -0.0,      0x1p-1074,
+                                -0x1p-1074, 0x1p-1022, 1e-9,
+                                0.5,        -0.5,      0.9999999999999999,
+                                1.0,        -1.0,      2.0,
+                                -2.0,       2.5,       1.0000000000000002,
+                                -3.0,       3.25,      10.0,
+                                22.5,       -710.5,    710.5,
+                                0x1p53 + 2, 1e22,      -1e300,
+                                1e300,      kNaN,      -kNaN,
+                                kInfinity,  -kInfinity};
+
+using OneReal = void(double*, double);
+using TwoReals = void(double*, double, double);
+
+template <class Function, class... Operands>
+Real ValueOf(Function* function, Operands... operands) {
+    double result[] = {1.25, 2.5, 5.0};
+    function(result + 1, operands...);
+    EXPECT_TRUE(result[0] == 1.25 && result[2] == 5.0);
+    return {result[1]};
+}
+
+using OneRealExport = Export<OneReal, double(double)>;
+constexpr OneRealExport kOneRealExports[] = {
+    {"tarn_AcosR", tarn_AcosR, [](double x) { return std::acos(x); }},
+    {"tarn_AcoshR", tarn_AcoshR, [](double x) { return x < 1 ? kNaN : std::acosh(x); }},
+    {"tarn_AsinR", tarn_AsinR, [](double x) { return std::asin(x); }},
+    {"tarn_AsinhR", tarn_AsinhR, [](double x) { return std::asinh(x); }},
+    {"tarn_AtanR", tarn_AtanR, [](double x) { return std::atan(x); }},
+    {"tarn_AtanhR", tarn_AtanhR,
+     [](double x) { return std::fabs(x) >= 1 ? std::copysign(kInfinity, x) : std::atanh(x); }},
+    {"tarn_CeilR", tarn_CeilR, [](double x) { return std::ceil(x); }},
+    {"tarn_CosR", tarn_CosR, [](double x) { return std::cos(x); }},
+    {"tarn_CoshR", tarn_CoshR, [](double x) { return std::cosh(x); }},
+    {"tarn_ExpR", tarn_ExpR, [](double x) { return std::exp(x); }},
+    {"tarn_FloorR", tarn_FloorR, [](double x) { return std::floor(x); }},
+    {"tarn_LnR", tarn_LnR, [](double x) { return std::log(x); }},
+    {"tarn_Log10R", tarn_Log10R, [](double x) { return std::log10(x); }},
+    {"tarn_SinR", tarn_SinR, [](double x) { return std::sin(x); }},
+    {"tarn_SinhR", tarn_SinhR, [](double x) { return std::sinh(x); }},
+    {"tarn_SqrtR", tarn_SqrtR, [](double x) { return std::sqrt(x); }},
+    {"tarn_TanR", tarn_TanR, [](double x) { return std::tan(x); }},
+    {"tarn_TanhR", tarn_TanhR, [](double x) { return std::tanh(x); }},
+};
+using TwoRealExport = Export<TwoReals, double(double, double)>;
+constexpr TwoRealExport kTwoRealExports[] = {
+    {"tarn_Atan2R", tarn_Atan2R, [](double x, double y) { return std::atan2(y, x); }},
+    {"tarn_HypotR", tarn_HypotR, [](double x, double y) { return std::hypot(x, y); }},
+    {"tarn_PowerR", tarn_PowerR, [](double x, double y) { return std::pow(x, y); }},
+};
+
+class OneRealTest : public testing::TestWithParam<OneRealExport> {};
+INSTANTIATE_TEST_SUITE_P(Real, OneRealTest, testing::ValuesIn(kOneRealExports), kExportName);
+
+TEST_P(OneRealTest, MatchesMathLibrary) {
+    const auto& [name, function, model] = GetParam();
+    for (const double x : kSpecialReals) {
+        EXPECT_EQ(ValueOf(function, x), Real{model(x)}) << Real{x};
+    }
+    for (Gen& gen : Seeds(kRuns)) {
+        const double x = gen.OneIn(4) ? DrawReal(gen, -1023, 1024) : DrawReal(gen, -9, 9);
+        ASSERT_EQ(ValueOf(function, x), Real{model(x)}) << gen.Reproducer(Real{x});
+    }
+}
+
+class TwoRealTest : public testing::TestWithParam<TwoRealExport> {};
+INSTANTIATE_TEST_SUITE_P(Real, TwoRealTest, testing::ValuesIn(kTwoRealExports), kExportName);
+
+TEST_P(TwoRealTest, MatchesMathLibrary) {
+    const auto& [name, function, model] = GetParam();
+    for (const double x : kSpecialReals) {
+        for (const double y : kSpecialReals) {
+            EXPECT_EQ(ValueOf(function, x, y), Real{model(x, y)}) << Real{x} << Real{y};
+        }
+    }
+    for (Gen& gen : Seeds(kRuns)) {
+        const double x = DrawReal(gen, -9, 9), y = DrawReal(gen, -9, 9);
+        ASSERT_EQ(ValueOf(function, x, y), Real{model(x, y)}) << gen.Reproducer(Real{x}, Real{y});
+    }
+}
+
+TEST(Real, KnownValuesOfFunctions) {
+    EXPECT_EQ(ValueOf(tarn_AcoshR, 0.5), Real{kNaN});
+    EXPECT_EQ(ValueOf(tarn_AtanhR, -3.0), Real{-kInfinity});
+    EXPECT_EQ(ValueOf(tarn_Atan2R, 1.0, 0.0), Real{0.0});
+    EXPECT_EQ(ValueOf(tarn_Atan2R, 0.0, 1.0), Real{std::acos(0.0)});
+    EXPECT_EQ(ValueOf(tarn_PowerR, 2.0, 10.0), Real{1024.0});
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 /** @file
- *  Real numbers: doubles into vectors and vectors into doubles. The functions of this header may run
- *  in any thread. */
+ *  Real numbers: doubles into vectors and vectors into doubles, and the real math functions. The
+ *  functions of this header may run in any thread. */
 #ifndef TARNLIB_REAL_H
 #define TARNLIB_REAL_H
 
@@ -51,6 +51,64 @@ TARNLIB_API void tarn_TruncatedConvertToVector(int width, VectorWord* result,
 TARNLIB_API double tarn_UnsignedConvertToReal(int width, const VectorWord* v) TARNLIB_NOEXCEPT;
 /** @copydoc tarn_UnsignedConvertToReal */
 TARNLIB_API double tarn_SignedConvertToReal(int width, const VectorWord* v) TARNLIB_NOEXCEPT;
+
+/*------------------------------------------------------------------------------------------------
+ * Math functions
+ *----------------------------------------------------------------------------------------------*/
+
+/** The real math functions: the value of the C math library's function of the same name. Ln is its
+ *  log, Power its pow.
+ *  writes    *result.
+ *  limits    special values are as the C library has them, but for two functions: AcoshR of a value
+ *            below 1 is NaN; AtanhR from 1 up is infinity and from -1 down minus infinity, also
+ *            beyond 1 and -1.
+ *  source    IEEE 1364-2005, 17.11.2 */
+TARNLIB_API void tarn_AcosR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_AcoshR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_AsinR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_AsinhR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_AtanR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_AtanhR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_CeilR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_CosR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_CoshR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_ExpR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_FloorR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_LnR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_Log10R(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_SinR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_SinhR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_SqrtR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_TanR(double* result, double x) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_AcosR */
+TARNLIB_API void tarn_TanhR(double* result, double x) TARNLIB_NOEXCEPT;
+
+/** The real math functions of two operands, under the same rules.
+ *  writes    *result: atan2(y, x), the angle of the point (x, y), whose arguments come in the other
+ *            order here than in C; hypot(x, y); x to the power y.
+ *  source    IEEE 1364-2005, 17.11.2
+ *  example   tarn_Atan2R(&r, 0.0, 1.0) stores pi / 2. */
+TARNLIB_API void tarn_Atan2R(double* result, double x, double y) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_Atan2R */
+TARNLIB_API void tarn_HypotR(double* result, double x, double y) TARNLIB_NOEXCEPT;
+/** @copydoc tarn_Atan2R */
+TARNLIB_API void tarn_PowerR(double* result, double x, double y) TARNLIB_NOEXCEPT;
 
 TARNLIB_END_C
 

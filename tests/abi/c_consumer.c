@@ -50,9 +50,12 @@ static void CheckSelects(void) {
 
 static void CheckReals(void) {
     VectorWord rounded = {7, 7};
+    double result = 0.0;
     tarn_ConvertToVector(8, &rounded, -2.5);
     CHECK(rounded.aval == 0xFFFFFFFD && rounded.bval == 0);
     CHECK(tarn_SignedConvertToReal(8, &rounded) == -3.0);
+    tarn_Atan2R(&result, 1.0, 0.0);
+    CHECK(result == 0.0);
 }
 
 static VectorWord literalWords[2];
