@@ -1,4 +1,4 @@
-// Vectors as reals, reals as vectors, and real functions.
+// Vectors as reals, reals as vectors, real functions, clog2.
 #include <bit>
 #include <cfenv>
 #include <cmath>
@@ -335,6 +335,38 @@ TEST(Real, KnownValuesOfFunctions) {
     EXPECT_EQ(ValueOf(tarn_Atan2R, 1.0, 0.0), Real{0.0});
     EXPECT_EQ(ValueOf(tarn_Atan2R, 0.0, 1.0), Real{std::acos(0.0)});
     EXPECT_EQ(ValueOf(tarn_PowerR, 2.0, 10.0), Real{1024.0});
+}
+
+int BitsBelow(const Vec& v) {
+    const mpz_class value = ToInteger(v);
+    if (HasUnknown(v) || value <= 1) return 0;
+    return static_cast<int>(mpz_sizeinbase(mpz_class(value - 1).get_mpz_t(), 2));
+}
+
+TEST(Clog2, MatchesModel) {
+    for (Gen& gen : Seeds(2 * kRuns)) {
+        Vec v = gen.Vector(gen.OneIn(4) ? gen.Between(1, 5000) : gen.AnyWidth());
+        if (gen.OneIn(2) && v.width > 0) {
+            // Beside a power of two, where the vector begins and where a block of words does.
+            AssignInteger(v, PowerOfTwo(gen.Below(v.width)) + gen.Between(-1, 1));
+            if (gen.OneIn(4)) v.bits[gen.Bits() % v.bits.size()] = Logic::kZ;
+        }
+        const Outcome outcome = Call(tarn_Clog2, v);
+        ASSERT_EQ(outcome.broken, "") << gen.Reproducer(v);
+        ASSERT_EQ(outcome.returned, BitsBelow(v)) << gen.Reproducer(v);
+    }
+}
+
+TEST(Clog2, KnownValues) {
+    const std::pair<Vec, int> rows[] = {
+        {"32'h0"_v, 0},          {"32'h1"_v, 0},         {"32'h2"_v, 1},
+        {"32'h3"_v, 2},          {"32'h4"_v, 2},         {"32'h5"_v, 3},
+        {"32'h80000000"_v, 31},  {"32'h80000001"_v, 32}, {"64'h100000000"_v, 32},
+        {"64'h100000001"_v, 33}, {"9'b0z0000001"_v, 0},  {Words(4, {{0x101, 0}}), 9},
+    };
+    for (const auto& [v, expected] : rows) {
+        EXPECT_EQ(Call(tarn_Clog2, v).returned, expected) << v;
+    }
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 /** @file
- *  Real numbers: doubles into vectors and vectors into doubles, and the real math functions. The
- *  functions of this header may run in any thread. */
+ *  Real numbers: doubles into vectors and vectors into doubles, the real math functions, and the
+ *  base-2 logarithm of a vector. The functions of this header may run in any thread. */
 #ifndef TARNLIB_REAL_H
 #define TARNLIB_REAL_H
 
@@ -109,6 +109,16 @@ TARNLIB_API void tarn_Atan2R(double* result, double x, double y) TARNLIB_NOEXCEP
 TARNLIB_API void tarn_HypotR(double* result, double x, double y) TARNLIB_NOEXCEPT;
 /** @copydoc tarn_Atan2R */
 TARNLIB_API void tarn_PowerR(double* result, double x, double y) TARNLIB_NOEXCEPT;
+
+/** The logarithm of an unsigned vector to base 2, rounded up ($clog2): how many bits the numbers
+ *  from 0 to v - 1 need.
+ *  widths    bits; a width below 1 returns 0.
+ *  unknown   any bval bit set in any word: 0.
+ *  top word  counts whole, bits above the width included.
+ *  returns   the number of bits; 0 for the values 0 and 1.
+ *  source    IEEE 1364-2005, 17.11.1
+ *  example   4 gives 2, 5 gives 3. */
+TARNLIB_API int tarn_Clog2(int width, const VectorWord* v) TARNLIB_NOEXCEPT;
 
 TARNLIB_END_C
 

@@ -1,10 +1,11 @@
-// Exports: vectors and reals, real functions.
+// Exports: vectors and reals, real functions, clog2.
 #include <cmath>
 #include <limits>
 
 #include <tarnlib/real.h>
 
 #include "core/contract.h"
+#include "real/clog2.h"
 #include "real/convert.h"
 
 #define TARN_REQUIRE_STORE(width, result, value) \
@@ -59,6 +60,11 @@ double tarn_UnsignedConvertToReal(int width, const VectorWord* v) noexcept {
 double tarn_SignedConvertToReal(int width, const VectorWord* v) noexcept {
     TARN_REQUIRE_VALUE(width, v);
     return ToReal<SignExtend>({width, v});
+}
+
+int tarn_Clog2(int width, const VectorWord* v) noexcept {
+    TARN_REQUIRE_IN_PLACE(width, v);
+    return CeilingLog2({width, v});
 }
 
 void tarn_AcosR(double* result, double x) noexcept {

@@ -39,6 +39,7 @@ std::size_t CountToLongTop(const VectorWord* words, std::size_t count) noexcept 
     return TrimWords<Rule>(words, RunKernel<SkipTopKernel<Rule>>(words, count));
 }
 
+template std::size_t CountToLongTop<AnyBit>(const VectorWord*, std::size_t) noexcept;
 template std::size_t CountToLongTop<KnownOne>(const VectorWord*, std::size_t) noexcept;
 template std::size_t CountToLongTop<NoKnownOne>(const VectorWord*, std::size_t) noexcept;
 

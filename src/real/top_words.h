@@ -9,6 +9,13 @@ namespace tarn {
 
 // What ends the search: a word for which Collect finds one of the bits of kBits. The words are one
 // Word or Lanes.
+struct AnyBit {
+    static constexpr Word kBits = kAllX;
+    template <class Words>
+    TARN_KERNEL static constexpr void Collect(const Words& words, Words& found) noexcept {
+        found |= words;
+    }
+};
 struct KnownOne {
     static constexpr Word kBits = kValueBits;
     template <class Words>
