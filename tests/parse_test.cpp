@@ -1,6 +1,9 @@
-// Digits and characters read into vectors.
+// Digits and characters read into vectors and reals.
 #include <climits>
+#include <cmath>
+#include <cstdlib>
 
+#include <tarnlib/real.h>
 #include <tarnlib/text.h>
 
 #include "support/guarded.h"
@@ -147,6 +150,61 @@ TEST(Parse, AssignStringTakesLengthNotTerminator) {
     if (kIsChecked) return;
     EXPECT_EQ(Assign(40, INT_MIN, ""), "40'h0"_v);
     EXPECT_EQ(Assign(-1, 3, "abc"), (Vec{-1, {}}));
+}
+
+double Real(const std::string& text, Edge edge = Edge::kEndsAtPage) {
+    static GuardedBlock block;
+    double result = -1.5;
+    tarn_CreateReal(block.PlaceText(text, edge), &result);
+    return result;
+}
+
+// Underscores anywhere, and texts around the length from which on storage is allocated.
+TEST(Parse, RealsAreThoseOfTheLibraryWithoutUnderscores) {
+    for (Gen& gen : Seeds(kRuns)) {
+        std::string digits, text;
+        const int longest = gen.OneIn(10) ? 300 : 25;
+        for (int left = gen.Below(longest); left > 0; --left) {
+            digits += "0123456789012345678901234567890123456789.-+eEx p"[gen.Below(48)];
+            text += std::string(gen.OneIn(3) ? 1 : 0, '_') + digits.back();
+        }
+        ASSERT_EQ(Real(text, kEdges[gen.Below(3)]), std::atof(digits.c_str()))
+            << gen.Reproducer(text);
+    }
+}
+
+TEST(Parse, KnownReals) {
+    const std::pair<const char*, double> rows[] = {
+        {"1_000.5", 1000.5}, {"1e3", 1000.0},      {"2.5e-1_0", 2.5e-10}, {"", 0.0},
+        {"abc", 0.0},        {"3.5xyz", 3.5},      {" -_7", -7.0},        {"_", 0.0},
+        {"0x1_8p1", 48.0},   {"-i_nf", -HUGE_VAL},
+    };
+    for (const auto& [text, expected] : rows) {
+        EXPECT_EQ(Real(text), expected) << text;
+    }
+}
+
+double Assigned(const std::string& text, int length) {
+    static GuardedBlock block;
+    double result = -1.5;
+    tarn_AssignStringToReal(&result, length, block.PlaceCharacters(text, Edge::kEndsAtPage));
+    return result;
+}
+
+TEST(Parse, AssignStringToRealGoesThroughASignedVector) {
+    for (Gen& gen : Seeds(kRuns)) {
+        const std::string text =
+            DrawText(gen, 80, std::string_view("ab\0\0\0\xFF\xFF\xFF\x80", 9), 8);
+        const std::vector<VectorWord> words = ToWords(PackedValue(64, text));
+        ASSERT_EQ(Assigned(text, static_cast<int>(text.size())),
+                  tarn_SignedConvertToReal(64, words.data()))
+            << gen.Reproducer(text);
+    }
+    EXPECT_EQ(Assigned("AB", 2), 16706.0);
+    EXPECT_EQ(Assigned("\xFF", 1), 255.0);
+    EXPECT_EQ(Assigned(std::string(8, '\xFF'), 8), -1.0);
+    if (kIsChecked) return;
+    EXPECT_EQ(Assigned("AB", -1), 0.0);
 }
 
 }  // namespace

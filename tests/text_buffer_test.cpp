@@ -65,6 +65,7 @@ class TextBuffer : public testing::Test {
         Find("tarn_CopyNToGlobalBuffer", &copyN);
         Find("tarn_SignedConvertToDec", &signedDecimal);
         Find("tarn_UnsignedConvertToDec", &unsignedDecimal);
+        Find("tarn_CreateReal", &createReal);
     }
 
     void TearDown() override {
@@ -86,6 +87,7 @@ class TextBuffer : public testing::Test {
     decltype(&tarn_CopyNToGlobalBuffer) copyN = nullptr;
     decltype(&tarn_SignedConvertToDec) signedDecimal = nullptr;
     decltype(&tarn_UnsignedConvertToDec) unsignedDecimal = nullptr;
+    decltype(&tarn_CreateReal) createReal = nullptr;
     GuardedBlock block;
 
   private:
@@ -158,6 +160,28 @@ TEST_F(TextBuffer, FailedGrowthLeavesTheBufferAsItWas) {
     EXPECT_STREQ(text, "abc");
     EXPECT_EQ(CapacityOf(text), 10U);
     EXPECT_EQ(get(9), text);
+}
+
+// Nothing to do with the buffer, but with the storage that is watched here.
+TEST_F(TextBuffer, RealsNeedStorageOnlyForLongTextsWithUnderscores) {
+    double result = 7.0;
+    const std::string zeros(500, '0');
+    mostBytes = 0;
+    createReal(("0.5" + zeros).c_str(), &result);
+    EXPECT_EQ(result, 0.5);
+    createReal("0.2_5", &result);
+    EXPECT_EQ(result, 0.25);
+    EXPECT_THROW(createReal(("0.1_5" + zeros).c_str(), &result), std::bad_alloc);
+    EXPECT_EQ(result, 0.25);
+    mostBytes = SIZE_MAX;
+    const auto live = [] {
+        return std::count_if(std::begin(liveArrays), std::end(liveArrays),
+                             [](const LiveArray& a) { return a.address != nullptr; });
+    };
+    const auto before = live();
+    createReal(("0.7_5" + zeros).c_str(), &result);
+    EXPECT_EQ(result, 0.75);
+    EXPECT_EQ(live(), before);
 }
 
 }  // namespace

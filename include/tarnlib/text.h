@@ -216,6 +216,31 @@ TARNLIB_API void tarn_AssignStringToVector(int width, VectorWord* result, int le
                                            const char* text) TARNLIB_NOEXCEPT;
 
 /*------------------------------------------------------------------------------------------------
+ * Digits and characters as reals
+ *----------------------------------------------------------------------------------------------*/
+
+/** The value of a real literal.
+ *  writes    *result: what the C library's atof makes of the text without its '_' characters. It
+ *            skips white space, stops where the number ends, and gives 0.0 where there is none.
+ *  limits    the decimal point is that of the program's locale, and hexadecimal reals, infinities
+ *            and NaNs are read too. A text that has a '_' is copied; for a long one working areas
+ *            are allocated during the call, and std::bad_alloc passes through, *result unchanged.
+ *            May run in any thread.
+ *  source    IEEE 1364-2005, 3.5.2
+ *  example   "1_000.5" gives 1000.5, "3.5xyz" gives 3.5. */
+TARNLIB_API void tarn_CreateReal(const char* text, double* result);
+
+/** The assignment of a string of `length` characters, NULs included, to a real: the signed 64-bit
+ *  number that tarn_AssignStringToVector makes of it, as tarn_SignedConvertToReal converts it.
+ *  writes    *result.
+ *  limits    of a longer string the last 8 characters are used. A length below 0 counts as 0. May
+ *            run in any thread.
+ *  source    IEEE 1364-2005, 3.6 and 4.8.2
+ *  example   "AB" gives 16706.0; eight characters of value 255 give -1.0. */
+TARNLIB_API void tarn_AssignStringToReal(double* result, int length,
+                                         const char* text) TARNLIB_NOEXCEPT;
+
+/*------------------------------------------------------------------------------------------------
  * Literals
  *----------------------------------------------------------------------------------------------*/
 

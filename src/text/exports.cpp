@@ -11,6 +11,7 @@
 #include "text/machine_integer.h"
 #include "text/parse.h"
 #include "text/radix_text.h"
+#include "text/real_parse.h"
 #include "text/text_buffer.h"
 
 #define TARN_REQUIRE_VALUE(width, value, option) \
@@ -187,6 +188,20 @@ void tarn_AssignStringToVector(int width, VectorWord* result, int length,
     TARN_REQUIRE(IsVector(width, result));
     TARN_REQUIRE(length == 0 || (length > 0 && text != nullptr));
     PackCharacters({width, result}, {text, length < 0 ? 0 : static_cast<std::size_t>(length)});
+}
+
+void tarn_CreateReal(const char* text, double* result) {
+    TARN_ARGUMENTS(text, result);
+    TARN_REQUIRE(text != nullptr);
+    TARN_REQUIRE(result != nullptr);
+    *result = ParseReal(text);
+}
+
+void tarn_AssignStringToReal(double* result, int length, const char* text) noexcept {
+    TARN_ARGUMENTS(result, length, text);
+    TARN_REQUIRE(result != nullptr);
+    TARN_REQUIRE(length == 0 || (length > 0 && text != nullptr));
+    *result = PackedReal({text, length < 0 ? 0 : static_cast<std::size_t>(length)});
 }
 
 bool tarn_CreateVector(const char* sizeText, const char* valueText, int* width, VectorWord** result,

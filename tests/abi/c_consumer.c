@@ -66,6 +66,7 @@ static void* AllocateLiteral(uint64_t byteCount) {
 }
 
 static void CheckText(void) {
+    double real = 0.0;
     int width = 0;
     VectorWord* literal = NULL;
     unsigned char truncated = 1;
@@ -75,6 +76,8 @@ static void CheckText(void) {
     CHECK(!tarn_DecimalStringToVector(width, literalWords, "4294967296"));
     CHECK(literalWords[0].aval == 0 && literalWords[1].aval == 1 && literalWords[1].bval == 0);
     CHECK(strcmp(tarn_CopyNToGlobalBuffer("abcdef", 3), "abc") == 0);
+    tarn_CreateReal("1_0.5", &real);
+    CHECK(real == 10.5);
 }
 
 int main(void) {
