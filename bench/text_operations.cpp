@@ -1,4 +1,6 @@
 // Text in both directions.
+#include <cstdlib>
+
 #include <tarnlib.h>
 
 #include "families.h"
@@ -20,6 +22,29 @@ template <auto kExport>
 Ladder Mixed() {
     return {{1, kWidest, ReturnsText<TextOfKnown<kExport>>("known"), 4.0}};
 }
+
+void RealOfText(const Operands& o) {
+    tarn_CreateReal(o.text, o.resultReal);
+}
+
+void RealByLibrary(const Operands& o) {
+    *o.resultReal = std::atof(o.text);
+}
+
+void RealOfCharacters(const Operands& o) {
+    tarn_AssignStringToReal(o.resultReal, static_cast<int>(o.digitCount), o.text);
+}
+
+// The digits' characters are no tie between two doubles.
+void RealOfLastCharacters(const Operands& o) {
+    std::uint64_t bytes = 0;
+    for (std::size_t i = 0; i < o.digitCount; ++i) {
+        bytes = bytes << 8 | static_cast<unsigned char>(o.text[i]);
+    }
+    *o.resultReal = static_cast<double>(static_cast<std::int64_t>(bytes));
+}
+
+constexpr Contestant kAtof = WritesReal<RealByLibrary>("atof");
 
 constexpr Shape kBinary{.radix = 2};
 constexpr Shape kOctal{.radix = 8};
@@ -46,6 +71,12 @@ std::vector<Operation> TextOperations() {
         {"HexStringToVector", kHex, kWords<OfText<tarn_HexStringToVector>>, kMpnSetStr, kParse},
         {"DecimalStringToVector", kDecimal, kWords<OfText<tarn_DecimalStringToVector>>, kMpnSetStr,
          Product(12, kMpnSetStr, kWidestProduct)},
+        {"CreateReal", kDecimal, kWritesReal<RealOfText>, kAtof, {{1, 128, kAtof, 1.5}}},
+        {"AssignStringToReal",
+         kHex,
+         kWritesReal<RealOfCharacters>,
+         WritesReal<RealOfLastCharacters>("by shifts"),
+         {{1, 64, kFloor, 4.5}}},
     };
 }
 
