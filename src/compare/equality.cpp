@@ -30,8 +30,8 @@ struct MatchKernel {
         Findings<Lanes> found;
         std::size_t i = 0;
         for (; count - i >= kBlock; i += kBlock) {
-            // Unrolled further, this loads a whole block before it compares any of it, which is slow
-            // where vectors do not begin at a cache line.
+            // Unrolled further, this loads a whole block before it compares any of it, which is
+            // slow where vectors do not begin at a cache line.
 #pragma GCC unroll 2
             for (std::size_t k = 0; k < kBlock; k += kLaneCount) {
                 CompareAt<Rule>(i + k, a, b, found);
@@ -47,15 +47,16 @@ struct MatchKernel {
     }
 };
 
-// At least one word.
+// At least one word. Of many, one is compared first: vectors that differ mostly differ there.
 template <class Rule, class A, class B>
 [[gnu::noinline]] LogicCode MatchRun(A a, B b, std::size_t count) noexcept {
-    if (count >= kLaneCount) return RunKernel<MatchKernel<Rule>>(a, b, count);
+    const std::size_t ahead = count <= kFewWords ? count : 1;
     Findings<Word> found;
-    for (const std::size_t i : {std::size_t{0}, count / 2, count - 1}) {
+    for (std::size_t i = 0; i < ahead; ++i) {
         CompareAt<Rule>(i, a, b, found);
+        if (HasMismatch(found.mismatch)) return TARN_LOGIC_0;
     }
-    return Verdict(found);
+    return ahead == count ? Verdict(found) : RunKernel<MatchKernel<Rule>>(a, b, count);
 }
 
 // Operands of unequal counts.
@@ -78,10 +79,6 @@ template <class Rule, class Extend>
 template <class Rule, class Extend>
 [[gnu::noinline]] LogicCode MatchLong(Operand a, Operand b) noexcept {
     if (a.width < 1 || b.width < 1) return TARN_LOGIC_0;
-    // Vectors that differ at all mostly differ here.
-    Findings<Word> found;
-    Rule::Compare(LoadWord(a.words), LoadWord(b.words), found);
-    if (HasMismatch(found.mismatch)) return TARN_LOGIC_0;
     if (a.Count() != b.Count()) return MatchUneven<Rule, Extend>(a, b);
     return MatchRun<Rule>(OwnWords{a.words}, OwnWords{b.words}, a.Count());
 }

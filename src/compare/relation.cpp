@@ -25,8 +25,14 @@ TARN_KERNEL void SkipBlocks(const OwnWords& a, const B& b, std::size_t& count) n
     }
 }
 
-// The number of words that are left up to the topmost pair that is not equal and known, that pair
-// included; 0 where all are.
+template <class B>
+TARN_KERNEL bool AreEqualAndKnown(const OwnWords& a, const B& b, std::size_t index) noexcept {
+    Word aWord, bWord;
+    a.Load(index, aWord);
+    b.Load(index, bWord);
+    return aWord == bWord && !IsUnknown(aWord);
+}
+
 struct SkipEqualKernel {
     template <class B>
     TARN_KERNEL static std::size_t Run(OwnWords a, B bRun, std::size_t count) noexcept {
@@ -34,15 +40,20 @@ struct SkipEqualKernel {
         SkipBlocks<16 * kLaneCount>(a, b, count);
         SkipBlocks<4 * kLaneCount>(a, b, count);
         SkipBlocks<kLaneCount>(a, b, count);
-        for (; count > 0; --count) {
-            Word aWord, bWord;
-            a.Load(count - 1, aWord);
-            b.Load(count - 1, bWord);
-            if (aWord != bWord || IsUnknown(aWord)) break;
+        while (count > 0 && AreEqualAndKnown(a, b, count - 1)) {
+            --count;
         }
         return count;
     }
 };
+
+// The number of words that are left up to the topmost pair that is not equal and known, that pair
+// included; 0 where all are. Numbers that differ mostly differ in their topmost words.
+template <class B>
+std::size_t SkipEqual(OwnWords a, B b, std::size_t count) noexcept {
+    if (!AreEqualAndKnown(a, b, count - 1)) return count;
+    return RunKernel<SkipEqualKernel>(a, b, count);
+}
 
 // a has at least as many words as b, and b has words.
 template <class Extend>
@@ -51,11 +62,10 @@ RelationCode RelateLong(Operand a, Operand b) noexcept {
     const Word beyond = ExtensionWord<Extend>(b);
     std::size_t left = shared;
     if (count > shared) {
-        left += RunKernel<SkipEqualKernel>(OwnWords{a.words + shared}, RepeatedWord{beyond},
-                                           count - shared);
+        left += SkipEqual(OwnWords{a.words + shared}, RepeatedWord{beyond}, count - shared);
     }
     if (left == shared) {
-        left = RunKernel<SkipEqualKernel>(OwnWords{a.words}, OwnWords{b.words}, shared);
+        left = SkipEqual(OwnWords{a.words}, OwnWords{b.words}, shared);
     }
     if (left == 0) return TARN_RELATION_EQUAL;
     const std::size_t below = left - 1;
@@ -74,11 +84,29 @@ constexpr RelationCode Mirrored(RelationCode code) noexcept {
     return code == TARN_RELATION_GREATER ? TARN_RELATION_LESS : code;
 }
 
+// From the lowest word up: the last word that differs decides.
+template <class Extend>
+RelationCode RelateFew(const VectorWord* a, const VectorWord* b, std::size_t count) noexcept {
+    RelationCode order = TARN_RELATION_EQUAL;
+    for (std::size_t i = 0; i < count; ++i) {
+        const Word aWord = LoadWord(a + i), bWord = LoadWord(b + i);
+        if (IsUnknown(aWord | bWord)) return TARN_RELATION_UNKNOWN;
+        if (aWord == bWord) continue;
+        order = i == count - 1 ? Order<Extend>(Aval(aWord), Aval(bWord))
+                               : Order<ZeroExtend>(Aval(aWord), Aval(bWord));
+    }
+    return order;
+}
+
 // Apart from what comes before it, so that two words are compared without a frame.
 template <class Extend>
 [[gnu::noinline]] RelationCode RelateEither(Operand a, Operand b) noexcept {
     if (a.width < 1 || b.width < 1) return TARN_RELATION_UNKNOWN;
-    return a.Count() >= b.Count() ? RelateLong<Extend>(a, b) : Mirrored(RelateLong<Extend>(b, a));
+    const std::size_t aCount = a.Count(), bCount = b.Count();
+    if (aCount == bCount && aCount <= kFewWords) {
+        return RelateFew<Extend>(a.words, b.words, aCount);
+    }
+    return aCount >= bCount ? RelateLong<Extend>(a, b) : Mirrored(RelateLong<Extend>(b, a));
 }
 
 std::uint64_t JoinAvals(Word low, Word high) noexcept {

@@ -7,6 +7,10 @@
 
 namespace tarn {
 
+// Up to this count a walk word by word is faster than a kernel.
+inline constexpr std::size_t kFewWords = 8;
+static_assert(kFewWords >= kLaneCount);
+
 // The words of a vector.
 struct OwnWords {
     using Held = OwnWords;
