@@ -1,4 +1,4 @@
-// Equality, the matches of case items and relations against the reference model, and at their edges.
+// Equality, case matches and relations against the reference model, and at their edges.
 #include <tarnlib/compare.h>
 
 #include "support/model.h"

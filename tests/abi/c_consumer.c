@@ -41,6 +41,12 @@ static void CheckLogic(void) {
     CHECK(tarn_ReductionXOR(4, &merged) == TARN_LOGIC_X && tarn_CheckCondition(4, &merged) == 1);
 }
 
+static void CheckComparison(void) {
+    const VectorWord minusOne = {0xFFFFFFFF, 0}, one = {1, 0}, x = {1, 1};
+    CHECK(tarn_SignedRelation(8, &minusOne, 8, &one) == TARN_RELATION_LESS);
+    CHECK(tarn_UnsignedEq(1, &x, 1, &one) == TARN_LOGIC_X);
+}
+
 static void CheckSelects(void) {
     VectorWord field = {0, 0};
     const VectorWord source[2] = {{0xC0000000, 0x80000000}, {2, 0}};
@@ -83,6 +89,7 @@ static void CheckText(void) {
 int main(void) {
     CheckVectors();
     CheckArithmetic();
+    CheckComparison();
     CheckLogic();
     CheckSelects();
     CheckReals();
