@@ -2,69 +2,17 @@
 
 #include <algorithm>
 
+#include "arith/combine_span.h"
 #include "arith/short.h"
 
 namespace tarn {
 namespace {
 
-// Where the words of an operand come from in one region of the result: its own storage, or the one
-// word that stands in for all that it does not have.
-struct OwnWords {
-    const VectorWord* words;
-
-    Word At(std::size_t i) const noexcept { return LoadWord(words + i); }
-    std::uint32_t AvalAt(std::size_t i) const noexcept { return words[i].aval; }
-    OwnWords From(std::size_t first) const noexcept { return {words + first}; }
-};
-
-struct SameWord {
-    Word word;
-
-    Word At(std::size_t) const noexcept { return word; }
-    std::uint32_t AvalAt(std::size_t) const noexcept { return Aval(word); }
-};
-
-struct SpanEnd {
-    CarryFlag carry;
-    bool unknown;
-};
-
-// result[0 .. count) = a Operation b with a carry or borrow in, kBlock words at a time: first the
-// unknown test of the whole block, then a chain of additions that nothing else comes between, so
-// that the carry stays in the processor's flag. Stops in front of the block that has an unknown
-// bit. Word i of a and b is read before word i of the result is written, so the result may start at
-// either's first word.
-template <class Operation, class A, class B>
-SpanEnd CombineSpan(VectorWord* result, A a, B b, std::size_t count, CarryFlag carry) noexcept {
-    constexpr std::size_t kBlock = 16;
-    std::size_t i = 0;
-    for (; i + kBlock <= count; i += kBlock) {
-        Word seen = 0;
-        for (std::size_t k = i; k < i + kBlock; ++k) {
-            seen |= a.At(k) | b.At(k);
-        }
-        if (IsUnknown(seen)) return {carry, true};
-#pragma GCC unroll 16
-        for (std::size_t k = i; k < i + kBlock; ++k) {
-            std::uint32_t sum = 0;
-            carry = Operation::Step(carry, a.AvalAt(k), b.AvalAt(k), &sum);
-            StoreWord(result + k, sum);
-        }
-    }
-    for (; i < count; ++i) {
-        const Word aWord = a.At(i), bWord = b.At(i);
-        if (IsUnknown(aWord | bWord)) return {carry, true};
-        std::uint32_t sum = 0;
-        carry = Operation::Step(carry, Aval(aWord), Aval(bWord), &sum);
-        StoreWord(result + i, sum);
-    }
-    return {carry, false};
-}
-
-// The same for operands of any widths, each continued above its words by `beyond`.
+// result = a Operation b, of which the first words are done, for operands of any widths; each is
+// continued above its words by `beyond`.
 template <class Operation>
-void CombineVectors(Result result, Operand a, SameWord aBeyond, Operand b,
-                    SameWord bBeyond) noexcept {
+[[gnu::noinline]] void CombineRegions(Result result, Operand a, SameWord aBeyond, Operand b,
+                                      SameWord bBeyond, Progress done) noexcept {
     const std::size_t count = result.Count();
     const std::size_t aCount = std::min(a.Count(), count);
     const std::size_t bCount = std::min(b.Count(), count);
@@ -72,21 +20,43 @@ void CombineVectors(Result result, Operand a, SameWord aBeyond, Operand b,
     const std::size_t either = std::max(aCount, bCount);
     const OwnWords aWords{a.words}, bWords{b.words};
 
-    SpanEnd end = CombineSpan<Operation>(result.words, aWords, bWords, both, 0);
-    if (!end.unknown && aCount > both) {
-        end = CombineSpan<Operation>(result.words + both, aWords.From(both), bBeyond, aCount - both,
-                                     end.carry);
-    } else if (!end.unknown && bCount > both) {
-        end = CombineSpan<Operation>(result.words + both, aBeyond, bWords.From(both), bCount - both,
-                                     end.carry);
-    }
-    if (!end.unknown && count > either) {
-        end = CombineSpan<Operation>(result.words + either, aBeyond, bBeyond, count - either,
-                                     end.carry);
-    }
-    if (end.unknown || HasUnknownFrom(count, a) || HasUnknownFrom(count, b)) {
+    const auto combine = [&](std::size_t end, auto aFrom, auto bFrom) {
+        return CombineUpTo<Operation>(end, result.words, aFrom, bFrom, done);
+    };
+    const bool known =
+        combine(both, aWords, bWords) &&
+        (aCount > both ? combine(either, aWords, bBeyond) : combine(either, aBeyond, bWords)) &&
+        combine(count, aBeyond, bBeyond);
+    if (!known || HasUnknownFrom(count, a) || HasUnknownFrom(count, b)) {
         FillX(result);
     }
+}
+
+// The operands that the kernel mostly gets all through: as many words as the result has. Out of
+// line, so that its frame does not burden short operands.
+template <class Operation, class Extend>
+[[gnu::noinline]] void CombineVectors(Result result, Operand a, Operand b) noexcept {
+    const std::size_t count = result.Count();
+    Progress done{0, 0};
+    if (a.Count() == count && b.Count() == count) {
+        done = RunKernel<CombineKernel<Operation>>(result.words, OwnWords{a.words},
+                                                   OwnWords{b.words}, count, CarryFlag{0});
+        if (done.count == count) return;
+    }
+    CombineRegions<Operation>(result, a, {ExtensionWord<Extend>(a)}, b, {ExtensionWord<Extend>(b)},
+                              done);
+}
+
+template <class Extend>
+[[gnu::noinline]] void NegateVector(Result result, Operand a) noexcept {
+    const std::size_t count = result.Count();
+    Progress done{0, 0};
+    if (a.Count() == count) {
+        done = RunKernel<CombineKernel<Subtraction>>(result.words, SameWord{0}, OwnWords{a.words},
+                                                     count, CarryFlag{0});
+        if (done.count == count) return;
+    }
+    CombineRegions<Subtraction>(result, {0, nullptr}, {0}, a, {ExtensionWord<Extend>(a)}, done);
 }
 
 }  // namespace
@@ -97,7 +67,7 @@ void CombineWide(Result result, Operand a, Operand b) noexcept {
         return {Operation::Combine(x.number, y.number), x.unknown || y.unknown};
     };
     if (ComputeShort<Extend>(result, combine, a, b)) return;
-    CombineVectors<Operation>(result, a, {ExtensionWord<Extend>(a)}, b, {ExtensionWord<Extend>(b)});
+    CombineVectors<Operation, Extend>(result, a, b);
 }
 
 template void CombineWide<Addition, SignExtend>(Result, Operand, Operand) noexcept;
@@ -109,7 +79,7 @@ template <class Extend>
 void NegateWide(Result result, Operand a) noexcept {
     const auto negate = [](auto x) -> decltype(x) { return {0 - x.number, x.unknown}; };
     if (ComputeShort<Extend>(result, negate, a)) return;
-    CombineVectors<Subtraction>(result, {0, nullptr}, {0}, a, {ExtensionWord<Extend>(a)});
+    NegateVector<Extend>(result, a);
 }
 
 template void NegateWide<SignExtend>(Result, Operand) noexcept;

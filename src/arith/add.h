@@ -3,12 +3,14 @@
 #define TARN_ARITH_ADD_H
 
 #include "arith/natural/limb.h"
+#include "core/lanes.h"
 #include "core/words.h"
 
 namespace tarn {
 
-// What addition and subtraction do with two machine numbers, and with two words and a carry or
-// borrow.
+// What addition and subtraction do with two machine numbers, with two words and a carry or borrow,
+// and with known words in lanes, where the carry or borrow of each is left in bit kCarryBit alone
+// or from there on upward.
 struct Addition {
     template <class Number>
     static constexpr Number Combine(Number a, Number b) noexcept {
@@ -18,6 +20,8 @@ struct Addition {
                           std::uint32_t* sum) noexcept {
         return AddWithCarry32(carry, a, b, sum);
     }
+    static constexpr int kCarryBit = 32;
+    TARN_KERNEL static void CombineLanes(Lanes& a, const Lanes& b) noexcept { a += b; }
 };
 
 struct Subtraction {
@@ -29,6 +33,8 @@ struct Subtraction {
                           std::uint32_t* difference) noexcept {
         return SubtractWithBorrow32(borrow, a, b, difference);
     }
+    static constexpr int kCarryBit = 63;
+    TARN_KERNEL static void CombineLanes(Lanes& a, const Lanes& b) noexcept { a -= b; }
 };
 
 // result = a Operation b for operands of any widths. Instantiated in add.cpp for both operations
