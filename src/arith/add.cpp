@@ -11,8 +11,8 @@ namespace {
 // result = a Operation b, of which the first words are done, for operands of any widths; each is
 // continued above its words by `beyond`.
 template <class Operation>
-[[gnu::noinline]] void CombineRegions(Result result, Operand a, SameWord aBeyond, Operand b,
-                                      SameWord bBeyond, Progress done) noexcept {
+[[gnu::noinline]] void CombineRegions(Result result, Operand a, RepeatedWord aBeyond, Operand b,
+                                      RepeatedWord bBeyond, Progress done) noexcept {
     const std::size_t count = result.Count();
     const std::size_t aCount = std::min(a.Count(), count);
     const std::size_t bCount = std::min(b.Count(), count);
@@ -52,8 +52,8 @@ template <class Extend>
     const std::size_t count = result.Count();
     Progress done{0, 0};
     if (a.Count() == count) {
-        done = RunKernel<CombineKernel<Subtraction>>(result.words, SameWord{0}, OwnWords{a.words},
-                                                     count, CarryFlag{0});
+        done = RunKernel<CombineKernel<Subtraction>>(result.words, RepeatedWord{0},
+                                                     OwnWords{a.words}, count, CarryFlag{0});
         if (done.count == count) return;
     }
     CombineRegions<Subtraction>(result, {0, nullptr}, {0}, a, {ExtensionWord<Extend>(a)}, done);

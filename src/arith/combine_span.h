@@ -5,31 +5,16 @@
 #include <algorithm>
 
 #include "arith/add.h"
-#include "core/lanes.h"
+#include "core/word_run.h"
 
 namespace tarn {
 
-// Where the words of an operand come from in one region of the result: its own storage, or the one
-// word that stands in for all that it does not have.
-struct OwnWords {
-    const VectorWord* words;
-
-    Word At(std::size_t i) const noexcept { return LoadWord(words + i); }
-    std::uint32_t AvalAt(std::size_t i) const noexcept { return words[i].aval; }
-    TARN_KERNEL void LanesAt(std::size_t i, Lanes& lanes) const noexcept {
-        LoadLanes(lanes, words + i);
-    }
-    OwnWords From(std::size_t first) const noexcept { return {words + first}; }
-};
-
-struct SameWord {
+template <class Run>
+TARN_KERNEL Word WordAt(const Run& run, std::size_t index) noexcept {
     Word word;
-
-    Word At(std::size_t) const noexcept { return word; }
-    std::uint32_t AvalAt(std::size_t) const noexcept { return Aval(word); }
-    TARN_KERNEL void LanesAt(std::size_t, Lanes& lanes) const noexcept { lanes = Lanes{} + word; }
-    SameWord From(std::size_t) const noexcept { return *this; }
-};
+    run.Load(index, word);
+    return word;
+}
 
 // How many words are done, and the carry or borrow out of them.
 struct Progress {
@@ -51,13 +36,13 @@ struct CombineKernel {
                                          CarryFlag* carry) noexcept {
         Word seen = 0;
         for (std::size_t k = first; k < first + kBlock; ++k) {
-            seen |= a.At(k) | b.At(k);
+            seen |= WordAt(a, k) | WordAt(b, k);
         }
         if (IsUnknown(seen)) return false;
 #pragma GCC unroll 16
         for (std::size_t k = first; k < first + kBlock; ++k) {
             std::uint32_t sum = 0;
-            *carry = Operation::Step(*carry, a.AvalAt(k), b.AvalAt(k), &sum);
+            *carry = Operation::Step(*carry, Aval(WordAt(a, k)), Aval(WordAt(b, k)), &sum);
             StoreWord(result + k, sum);
         }
         return true;
@@ -67,7 +52,7 @@ struct CombineKernel {
     TARN_KERNEL static Progress CombineTail(VectorWord* result, A a, B b, std::size_t first,
                                             std::size_t count, CarryFlag carry) noexcept {
         for (std::size_t i = first; i < count; ++i) {
-            const Word aWord = a.At(i), bWord = b.At(i);
+            const Word aWord = WordAt(a, i), bWord = WordAt(b, i);
             if (IsUnknown(aWord | bWord)) return {i, carry};
             std::uint32_t sum = 0;
             carry = Operation::Step(carry, Aval(aWord), Aval(bWord), &sum);
@@ -92,15 +77,15 @@ struct CombineKernel {
     // which random words do once in 2^32 times: a bit in the upper half of a result shows it.
     // `below` holds the carries of the lanes in front of the block.
     template <std::size_t kSteps, class A, class B>
-    TARN_TARGET_AVX2 TARN_KERNEL static bool CombineLaneBlock(VectorWord* result, A a, B b,
-                                                              std::size_t first,
+    TARN_TARGET_AVX2 TARN_KERNEL static bool CombineLaneBlock(VectorWord* result, const A& a,
+                                                              const B& b, std::size_t first,
                                                               Lanes& below) noexcept {
         Lanes seen{}, last = below, sums[kSteps];
 #pragma GCC unroll 4
         for (std::size_t k = 0; k < kSteps; ++k) {
             Lanes sum, other;
-            a.LanesAt(first + k * kLaneCount, sum);
-            b.LanesAt(first + k * kLaneCount, other);
+            a.Load(first + k * kLaneCount, sum);
+            b.Load(first + k * kLaneCount, other);
             seen |= sum | other;
             Operation::CombineLanes(sum, other);
             const Lanes carries = sum >> Operation::kCarryBit;
@@ -122,8 +107,10 @@ struct CombineKernel {
 
     // Stops in front of a carry that is passed on as well.
     template <class A, class B>
-    TARN_TARGET_AVX2 static Progress RunAvx2(VectorWord* result, A a, B b, std::size_t count,
+    TARN_TARGET_AVX2 static Progress RunAvx2(VectorWord* result, A aRun, B bRun, std::size_t count,
                                              CarryFlag carry) noexcept {
+        const typename A::Held a(aRun);
+        const typename B::Held b(bRun);
         Lanes below = {0, 0, 0, carry};
         const auto carryOut = [&below] { return static_cast<CarryFlag>(below[3]); };
         std::size_t i = 0;
@@ -135,7 +122,7 @@ struct CombineKernel {
         for (; i + kLaneCount <= count; i += kLaneCount) {
             if (!CombineLaneBlock<1>(result, a, b, i, below)) return {i, carryOut()};
         }
-        return CombineTail(result, a, b, i, count, carryOut());
+        return CombineTail(result, aRun, bRun, i, count, carryOut());
     }
 #endif
 };

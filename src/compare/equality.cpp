@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "compare/run.h"
+#include "core/word_run.h"
 
 namespace tarn {
 namespace {
@@ -89,8 +89,9 @@ template <class Rule, class Extend>
 LogicCode MatchWide(Operand a, Operand b) noexcept {
     if (!AreWithin<64>(a.width, b.width)) return MatchLong<Rule, Extend>(a, b);
     Findings<Word> found;
-    Rule::Compare(LoadWord(a.words), LoadWord(b.words), found);
-    Rule::Compare(UpperWord<Extend>(a), UpperWord<Extend>(b), found);
+    const Word aFirst = LoadWord(a.words), bFirst = LoadWord(b.words);
+    Rule::Compare(aFirst, bFirst, found);
+    Rule::Compare(SecondWord<Extend>(a, aFirst), SecondWord<Extend>(b, bFirst), found);
     return Verdict(found);
 }
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "compare/run.h"
+#include "core/word_run.h"
 #include "core/words.h"
 
 namespace tarn {
@@ -118,8 +118,8 @@ std::uint64_t JoinAvals(Word low, Word high) noexcept {
 template <class Extend>
 RelationCode RelateWide(Operand a, Operand b) noexcept {
     if (!AreWithin<64>(a.width, b.width)) return RelateEither<Extend>(a, b);
-    const Word aLow = LoadWord(a.words), aHigh = UpperWord<Extend>(a);
-    const Word bLow = LoadWord(b.words), bHigh = UpperWord<Extend>(b);
+    const Word aLow = LoadWord(a.words), aHigh = SecondWord<Extend>(a, aLow);
+    const Word bLow = LoadWord(b.words), bHigh = SecondWord<Extend>(b, bLow);
     const RelationCode order = Order<Extend>(JoinAvals(aLow, aHigh), JoinAvals(bLow, bHigh));
     return IsUnknown(aLow | aHigh | bLow | bHigh) ? TARN_RELATION_UNKNOWN : order;
 }

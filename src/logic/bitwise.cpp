@@ -67,15 +67,6 @@ template <auto kRule, class Extend>
     FillWords(result.words + aCount, count - aCount, kRule(beyond));
 }
 
-// Word 1 of an operand of one or two words. What lies there is read without a branch: where there
-// is no word 1, word 0 is read again.
-template <class Extend>
-inline Word SecondWord(Operand operand, Word first) noexcept {
-    const bool hasSecond = operand.width > 32;
-    const Word top = LoadWord(operand.words + hasSecond);
-    return hasSecond ? top : Extend::Beyond(first);
-}
-
 inline void StoreWords(Result result, Word first, Word second) noexcept {
     StoreWord(result.words, first);
     if (result.width > 32) StoreWord(result.words + 1, second);

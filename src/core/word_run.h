@@ -1,6 +1,7 @@
-// What a kernel that compares two runs of words takes them from.
-#ifndef TARN_COMPARE_RUN_H
-#define TARN_COMPARE_RUN_H
+// Where a kernel takes the words of an operand from in one region of a walk: the operand's own
+// storage, or the one word that stands in for all that it does not have.
+#ifndef TARN_CORE_WORD_RUN_H
+#define TARN_CORE_WORD_RUN_H
 
 #include "core/lanes.h"
 #include "core/vector.h"
@@ -11,10 +12,12 @@ namespace tarn {
 inline constexpr std::size_t kFewWords = 8;
 static_assert(kFewWords >= kLaneCount);
 
-// The words of a vector.
+// `Held` is the form that a kernel keeps for the time of its loop.
 struct OwnWords {
     using Held = OwnWords;
     const VectorWord* words;
+
+    OwnWords From(std::size_t first) const noexcept { return {words + first}; }
 
     TARN_KERNEL void Load(std::size_t index, Word& word) const noexcept {
         word = LoadWord(words + index);
@@ -24,10 +27,11 @@ struct OwnWords {
     }
 };
 
-// The word that stands above a narrow vector, however often it is needed.
 struct RepeatedWord {
     class Held;
     Word word;
+
+    RepeatedWord From(std::size_t) const noexcept { return *this; }
 
     TARN_KERNEL void Load(std::size_t, Word& to) const noexcept { to = word; }
 };
@@ -45,13 +49,6 @@ class RepeatedWord::Held : public RepeatedWord {
     Lanes lanes_;
 };
 
-// Word 1 of an operand of one or two words.
-template <class Extend>
-inline Word UpperWord(Operand operand) noexcept {
-    return operand.width > kWordBits ? LoadWord(operand.words + 1)
-                                     : Extend::Beyond(LoadWord(operand.words));
-}
-
 }  // namespace tarn
 
-#endif  // TARN_COMPARE_RUN_H
+#endif  // TARN_CORE_WORD_RUN_H
