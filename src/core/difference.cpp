@@ -24,7 +24,8 @@ struct DifferenceKernel {
             for (std::size_t k = 0; k < kBlock; k += kLaneCount) {
                 CollectLanes(found, words + i + k, expected);
             }
-            if (IsAnyLaneSet(found & decisive)) return FoldLanes(found);
+            const Word all = FoldLanes(found);
+            if ((all & decisive) != 0) return all;
         }
         for (; count - i >= kLaneCount; i += kLaneCount) {
             CollectLanes(found, words + i, expected);

@@ -2,6 +2,7 @@
 #ifndef TARN_CORE_WORDS_H
 #define TARN_CORE_WORDS_H
 
+#include "core/difference.h"
 #include "core/vector.h"
 
 namespace tarn {
@@ -10,7 +11,6 @@ namespace tarn {
 inline constexpr std::size_t kShortRun = 4;
 
 void FillLongRun(VectorWord* to, std::size_t count, Word word) noexcept;
-bool HasUnknownLongRun(const VectorWord* words, std::size_t count) noexcept;
 
 inline void FillWords(VectorWord* to, std::size_t count, Word word) noexcept {
     if (count > kShortRun) {
@@ -48,14 +48,7 @@ inline void CopyWordsDown(VectorWord* to, const VectorWord* from, std::size_t co
 }
 
 inline bool HasUnknown(const VectorWord* words, std::size_t count) noexcept {
-    if (count > kShortRun) {
-        return HasUnknownLongRun(words, count);
-    }
-    Word all = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        all |= LoadWord(words + i);
-    }
-    return IsUnknown(all);
+    return IsUnknown(DifferenceFrom(0, words, count, kUnknownBits));
 }
 
 // Words of an operand above the result don't enter a value, but an unknown bit there counts.
