@@ -6,8 +6,8 @@
 
 namespace tarn {
 
-// The bits in which some word of a run differs from `expected`. The search may stop with those found
-// so far once one of the bits `decisive` is among them.
+// The bits in which some word of a run differs from `expected`. The search may stop with those
+// found so far once one of the bits `decisive` is among them.
 Word DifferenceOfLongRun(const VectorWord* words, std::size_t count, Word expected,
                          Word decisive) noexcept;
 

@@ -42,8 +42,8 @@ inline Word Replace(VectorWord* to, Word word) noexcept {
 }
 
 // to[i] = JoinWords(from[i], from[i + 1], offset) for i from 0 to count - 1, so count + 1 words are
-// read, none for a count of 0. Returns the changed bits under OverwriteAndCompare, else 0. `to` lies
-// apart from `from`; or FunnelUp: at or below it; FunnelDown: above it. The long runs are
+// read, none for a count of 0. Returns the changed bits under OverwriteAndCompare, else 0. `to`
+// lies apart from `from`; or FunnelUp: at or below it; FunnelDown: above it. The long runs are
 // instantiated in funnel.cpp for both policies.
 template <class Policy>
 Word FunnelUpLongRun(VectorWord* to, const VectorWord* from, std::size_t count,

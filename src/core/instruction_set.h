@@ -3,17 +3,17 @@
 // A kernel is a struct with one static function, a loop over words in plain C++:
 //
 //     struct InvertKernel {
-//         TARN_KERNEL static void Run(VectorWord* to, const VectorWord* from, std::size_t count) ...
+//         TARN_KERNEL static void Run(VectorWord* to, const VectorWord* from, std::size_t n);
 //     };
 //
 // RunKernel<InvertKernel>(to, from, count) calls it. Run is compiled once for every instruction set
 // below, each time as the compiler vectorises it there, and the newest that the processor has was
-// chosen when the library was loaded. What Run calls must be inlined into it: TARN_KERNEL as well, or
-// short inline functions.
+// chosen when the library was loaded. What Run calls must be inlined into it: TARN_KERNEL as well,
+// or short inline functions.
 //
-// Where the compiler's code is too slow, a kernel may add a form by hand, RunAvx2 or RunAvx512 under
-// TARN_TARGET_AVX2 or TARN_TARGET_AVX512; it takes the place of Run from that instruction set on. Run
-// stays, and gives the same results.
+// Where the compiler's code is too slow, a kernel may add a form by hand, RunAvx2 or RunAvx512
+// under TARN_TARGET_AVX2 or TARN_TARGET_AVX512; it takes the place of Run from that instruction set
+// on. Run stays, and gives the same results.
 //
 // A test that links the objects of the library can choose another instruction set with
 // ForceInstructionSet; the suite of tests/ runs once for each that the processor has.

@@ -47,8 +47,8 @@ inline Word ExtensionWord(Operand operand) noexcept {
     return operand.width < 1 ? 0 : Extend::Beyond(LoadWord(operand.words + operand.Count() - 1));
 }
 
-// Word 1 of an operand of one or two words, of which word 0 is `first`. It is read without a branch:
-// where there is no word 1, word 0 is read again.
+// Word 1 of an operand of one or two words, of which word 0 is `first`. It is read without a
+// branch: where there is no word 1, word 0 is read again.
 template <class Extend>
 inline Word SecondWord(Operand operand, Word first) noexcept {
     const bool hasSecond = operand.width > kWordBits;
