@@ -1,6 +1,7 @@
 #include "select/rewrite.h"
 
-#include "core/instruction_set.h"
+#include "core/map_words.h"
+#include "core/words.h"
 
 namespace tarn {
 namespace {
@@ -8,9 +9,8 @@ namespace {
 template <class Rule>
 struct RewriteKernel {
     TARN_KERNEL static void Run(VectorWord* words, std::size_t count) noexcept {
-        for (std::size_t i = 0; i < count; ++i) {
-            StoreWord(words + i, Rule::Rewritten(LoadWord(words + i)));
-        }
+        MapWords(words, count,
+                 [words](std::size_t i) { return Rule::Rewritten(LoadWord(words + i)); });
     }
 };
 
@@ -18,7 +18,17 @@ struct RewriteKernel {
 
 template <class Rule>
 void RewriteWide(Result v) noexcept {
-    RunKernel<RewriteKernel<Rule>>(v.words, v.Count());
+    const std::size_t count = v.Count();
+    if (count > kShortRun) {
+        RunKernel<RewriteKernel<Rule>>(v.words, count);
+        return;
+    }
+    // A constant bound and an early end make this straight code.
+#pragma GCC unroll 4
+    for (std::size_t i = 0; i < kShortRun; ++i) {
+        if (i == count) break;
+        StoreWord(v.words + i, Rule::Rewritten(LoadWord(v.words + i)));
+    }
 }
 
 template void RewriteWide<ZeroToZ>(Result) noexcept;

@@ -6,17 +6,21 @@
 
 namespace tarn {
 
-// Each rule gives the new word. In the words of the proofs, bits 0 to 3 are 0, 1, Z and X.
+// Each rule gives the new word. word >> 32 is the bvals of a word, below its avals in place. In the
+// words of the proofs, bits 0 to 3 are 0, 1, Z and X.
+struct UnknownToZero {
+    static constexpr Word Rewritten(Word word) noexcept {
+        return word & ~(word >> 32) & kValueBits;
+    }
+};
 struct ZeroToZ {
     static constexpr Word Rewritten(Word word) noexcept { return word | ~word << 32; }
 };
 struct OneToZ {
     static constexpr Word Rewritten(Word word) noexcept {
-        return MakeWord(Aval(word) & Bval(word), Aval(word) | Bval(word));
+        const Word ones = UnknownToZero::Rewritten(word);
+        return word ^ (ones | ones << 32);
     }
-};
-struct UnknownToZero {
-    static constexpr Word Rewritten(Word word) noexcept { return Aval(word) & ~Bval(word); }
 };
 
 static_assert((ZeroToZ::Rewritten(MakeWord(0b1010, 0b1100)) & InBothHalves(0xF)) ==
