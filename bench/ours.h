@@ -65,6 +65,12 @@ void ReadField(const Operands& o) {
     kExport(o.result, o.a, o.fieldOffset, o.bWidth);
 }
 
+// The same field in signed storage.
+template <auto kExport>
+void ReadSignedField(const Operands& o) {
+    kExport(o.bWidth, o.result, o.a, o.fieldOffset, o.bWidth);
+}
+
 // The same field by its index in the vector.
 template <auto kExport>
 void ReadIndexedField(const Operands& o) {
@@ -100,6 +106,12 @@ int KeepFieldTwice(const Operands& o) {
 template <auto kExport>
 void PlaceField(const Operands& o) {
     kExport(static_cast<int>(o.fieldOffset) + o.bWidth, o.result, o.bWidth, o.b, o.fieldOffset);
+}
+
+// b is placed where it lies.
+template <auto kExport>
+void PlaceShifted(const Operands& o) {
+    kExport(o.bWidth, o.result, o.b);
 }
 
 template <auto kExport>
