@@ -13,31 +13,34 @@ int TopBits(int width) noexcept {
     return (width - 1) % 32 + 1;
 }
 
-}  // namespace
-
-void ReadWideField(VectorWord* result, const VectorWord* source, unsigned offset,
-                   int width) noexcept {
-    if (width < 1) return;
+// All words of a field of at least 1 bit. Returns the top one, which Cut ends.
+template <class Cut>
+Word ReadWords(VectorWord* result, const VectorWord* source, unsigned offset, int width) noexcept {
     const std::size_t last = WordCount(width) - 1;
     if (offset == 0) {
         CopyWords(result, source, last);
     } else {
         FunnelUp<Overwrite>(result, source, last, offset);
     }
-    const Word top = ReadShortField(source + last, offset, TopBits(width), CleanCut(width));
+    const Word top = ReadShortField(source + last, offset, TopBits(width), Cut(width));
     StoreWord(result + last, top);
+    return top;
+}
+
+}  // namespace
+
+void ReadWideField(VectorWord* result, const VectorWord* source, unsigned offset,
+                   int width) noexcept {
+    if (width >= 1) ReadWords<CleanCut>(result, source, offset, width);
 }
 
 void ReadWideSignedField(Result result, const VectorWord* source, unsigned offset,
                          int width) noexcept {
     if (width < 1) return;
-    ReadField(result.words, source, offset, width);
+    const Word top = ReadWords<SignedCut>(result.words, source, offset, width);
     const std::size_t count = WordCount(width);
-    VectorWord* const highest = result.words + count - 1;
-    const Word top = ReadShortField(highest, 0, TopBits(width), SignedCut(width));
-    StoreWord(highest, top);
     if (result.Count() > count) {
-        FillWords(highest + 1, result.Count() - count, SignExtend::Beyond(top));
+        FillWords(result.words + count, result.Count() - count, SignExtend::Beyond(top));
     }
 }
 
