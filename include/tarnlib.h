@@ -28,14 +28,17 @@
  *  holds in the normal build; the checked build reports it.
  *
  *  Family headers: tarnlib/vector.h (the vector, copies and conversions, exported data),
- *  tarnlib/arith.h, tarnlib/logic.h, tarnlib/compare.h, tarnlib/select.h, tarnlib/shift.h,
- *  tarnlib/real.h, tarnlib/text.h. Each can be included on its own. */
+ *  tarnlib/arith.h, tarnlib/logic.h, tarnlib/compare.h, tarnlib/select.h, tarnlib/assign.h,
+ *  tarnlib/memory.h, tarnlib/shift.h, tarnlib/real.h, tarnlib/text.h. Each can be included on its
+ *  own. */
 #ifndef TARNLIB_H
 #define TARNLIB_H
 
 #include <tarnlib/arith.h>
+#include <tarnlib/assign.h>
 #include <tarnlib/compare.h>
 #include <tarnlib/logic.h>
+#include <tarnlib/memory.h>
 #include <tarnlib/real.h>
 #include <tarnlib/select.h>
 #include <tarnlib/shift.h>
