@@ -1,0 +1,161 @@
+// Exports: memory words.
+#include <tarnlib/memory.h>
+
+#include "core/contract.h"
+#include "select/memory_word.h"
+
+namespace tarn {
+namespace {
+
+bool IsMemoryWord(int memoryWidth, const std::uint8_t* memory) noexcept {
+    return memoryWidth >= 1 && memory != nullptr;
+}
+
+// Whether no byte of the memory word lies in the words of the vector.
+bool IsApart(int memoryWidth, const std::uint8_t* memory, int width,
+             const VectorWord* words) noexcept {
+    const auto memoryFirst = reinterpret_cast<std::uintptr_t>(memory);
+    const auto first = reinterpret_cast<std::uintptr_t>(words);
+    return width < 1 || memoryFirst + 2 * HalfByteCount(memoryWidth) <= first ||
+           first + WordCount(width) * sizeof(VectorWord) <= memoryFirst;
+}
+
+bool IsInside(int memoryWidth, int low, int width) noexcept {
+    return low >= 0 && std::int64_t{low} + width <= memoryWidth;
+}
+
+}  // namespace
+}  // namespace tarn
+
+#define TARN_REQUIRE_MEMORY_VALUE(resultWidth, result, memoryWidth, memory, spareBits) \
+    TARN_ARGUMENTS(resultWidth, result, memoryWidth, memory, spareBits);               \
+    TARN_REQUIRE(IsVector(resultWidth, result));                                       \
+    TARN_REQUIRE(IsMemoryWord(memoryWidth, memory));                                   \
+    TARN_REQUIRE(static_cast<unsigned>(spareBits) == SpareBits(memoryWidth));          \
+    TARN_REQUIRE(IsApart(memoryWidth, memory, resultWidth, result))
+
+#define TARN_REQUIRE_MEMORY_VECTOR(memoryWidth, memory, value) \
+    TARN_ARGUMENTS(memoryWidth, memory, value);                \
+    TARN_REQUIRE(IsMemoryWord(memoryWidth, memory));           \
+    TARN_REQUIRE(IsVector(memoryWidth, value));                \
+    TARN_REQUIRE(IsApart(memoryWidth, memory, memoryWidth, value))
+
+// `position` is the field's lowest bit or its index.
+#define TARN_REQUIRE_MEMORY_FIELD(memoryWidth, memory, vector, position, width) \
+    TARN_ARGUMENTS(memoryWidth, memory, vector, position, width);               \
+    TARN_REQUIRE(IsMemoryWord(memoryWidth, memory));                            \
+    TARN_REQUIRE(width >= 1);                                                   \
+    TARN_REQUIRE(IsVector(width, vector));                                      \
+    TARN_REQUIRE(IsApart(memoryWidth, memory, width, vector))
+
+#define TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, vector, position, width) \
+    TARN_REQUIRE_MEMORY_FIELD(memoryWidth, memory, vector, position, width);      \
+    TARN_REQUIRE(WordCount(memoryWidth) <= TARN_VECTOR_REGISTER_WORDS);           \
+    TARN_REQUIRE(IsOutsideRegister(width, vector))
+
+#define TARN_REQUIRE_NARROW_FIELD(memoryWidth, memory, vector, position, width) \
+    TARN_REQUIRE_MEMORY_FIELD(memoryWidth, memory, vector, position, width);    \
+    TARN_REQUIRE(AreOneWord(memoryWidth))
+
+using namespace tarn;
+
+extern "C" {
+
+void tarn_UnsignedCopyMemoryValue(int resultWidth, VectorWord* result, int memoryWidth,
+                                  const std::uint8_t* memory, int spareBits) noexcept {
+    TARN_REQUIRE_MEMORY_VALUE(resultWidth, result, memoryWidth, memory, spareBits);
+    Unpack<ZeroExtend>({resultWidth, result}, memoryWidth, memory,
+                       static_cast<unsigned>(spareBits) % kWordBits);
+}
+
+void tarn_SignedCopyMemoryValue(int resultWidth, VectorWord* result, int memoryWidth,
+                                const std::uint8_t* memory, int spareBits) noexcept {
+    TARN_REQUIRE_MEMORY_VALUE(resultWidth, result, memoryWidth, memory, spareBits);
+    Unpack<SignExtend>({resultWidth, result}, memoryWidth, memory,
+                       static_cast<unsigned>(spareBits) % kWordBits);
+}
+
+void tarn_MemoryWordAssign(int memoryWidth, std::uint8_t* memory,
+                           const VectorWord* value) noexcept {
+    TARN_REQUIRE_MEMORY_VECTOR(memoryWidth, memory, value);
+    Pack<Overwrite>(memoryWidth, memory, value);
+}
+
+int tarn_NotIdenticalMemoryWordAssign(int memoryWidth, std::uint8_t* memory,
+                                      const VectorWord* value) noexcept {
+    TARN_REQUIRE_MEMORY_VECTOR(memoryWidth, memory, value);
+    return Pack<OverwriteAndCompare>(memoryWidth, memory, value);
+}
+
+void tarn_MemoryWordPartselect(VectorWord* result, int memoryWidth, const std::uint8_t* memory,
+                               int low, int width) noexcept {
+    TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, result, low, width);
+    TARN_REQUIRE(IsInside(memoryWidth, low, width));
+    ReadMemoryField(result, memoryWidth, memory, low, width);
+}
+
+void tarn_MemoryWordIndexedPartselect(VectorWord* result, int memoryWidth,
+                                      const std::uint8_t* memory, int index, int width) noexcept {
+    TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, result, index, width);
+    ReadIndexedMemoryField(result, memoryWidth, memory, index, width);
+}
+
+void tarn_MemoryWordPartselectAssign(int memoryWidth, std::uint8_t* memory, const VectorWord* value,
+                                     int low, int width) noexcept {
+    TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, value, low, width);
+    TARN_REQUIRE(IsInside(memoryWidth, low, width));
+    AssignMemoryField<Overwrite>(memoryWidth, memory, value, low, width);
+}
+
+void tarn_MemoryWordIndexedPartselectAssign(int memoryWidth, std::uint8_t* memory,
+                                            const VectorWord* value, int index,
+                                            int width) noexcept {
+    TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, value, index, width);
+    AssignMemoryField<Overwrite>(memoryWidth, memory, value, index, width);
+}
+
+int tarn_NotIdenticalMemoryWordPartselectAssign(int memoryWidth, std::uint8_t* memory,
+                                                const VectorWord* value, int low,
+                                                int width) noexcept {
+    TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, value, low, width);
+    TARN_REQUIRE(IsInside(memoryWidth, low, width));
+    return AssignMemoryField<OverwriteAndCompare>(memoryWidth, memory, value, low, width);
+}
+
+int tarn_NotIdenticalMemoryWordIndexedPartselectAssign(int memoryWidth, std::uint8_t* memory,
+                                                       const VectorWord* value, int index,
+                                                       int width) noexcept {
+    TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, value, index, width);
+    return AssignMemoryField<OverwriteAndCompare>(memoryWidth, memory, value, index, width);
+}
+
+void tarn_MemoryWordPartselectAssign1(int memoryWidth, std::uint8_t* memory,
+                                      const VectorWord* value, int low, int width) noexcept {
+    TARN_REQUIRE_NARROW_FIELD(memoryWidth, memory, value, low, width);
+    TARN_REQUIRE(IsInside(memoryWidth, low, width));
+    AssignNarrowField(memoryWidth, memory, value, low, width);
+}
+
+int tarn_NotIdenticalMemoryWordPartselectAssign1(int memoryWidth, std::uint8_t* memory,
+                                                 const VectorWord* value, int low,
+                                                 int width) noexcept {
+    TARN_REQUIRE_NARROW_FIELD(memoryWidth, memory, value, low, width);
+    TARN_REQUIRE(IsInside(memoryWidth, low, width));
+    return AssignNarrowField(memoryWidth, memory, value, low, width);
+}
+
+void tarn_MemoryWordIndexedPartselectAssign1(int memoryWidth, std::uint8_t* memory,
+                                             const VectorWord* value, int index,
+                                             int width) noexcept {
+    TARN_REQUIRE_NARROW_FIELD(memoryWidth, memory, value, index, width);
+    AssignNarrowField(memoryWidth, memory, value, index, width);
+}
+
+int tarn_NotIdenticalMemoryWordIndexedPartselectAssign1(int memoryWidth, std::uint8_t* memory,
+                                                        const VectorWord* value, int index,
+                                                        int width) noexcept {
+    TARN_REQUIRE_NARROW_FIELD(memoryWidth, memory, value, index, width);
+    return AssignNarrowField(memoryWidth, memory, value, index, width);
+}
+
+}  // extern "C"
