@@ -41,6 +41,23 @@ TEST(CheckedDeathTest, ReportsArgumentsOutOfRange) {
     EXPECT_DEATH(tarn_PowerR(nullptr, 1.5, 2.0), "tarn_PowerR.*result = 0, x = 1.5, y = 2");
 }
 
+TEST(CheckedDeathTest, ReportsFieldsThatDoNotFit) {
+    VectorWord words[4] = {};
+    std::uint8_t memory[8] = {};
+    EXPECT_DEATH(tarn_PartselectAssign(words, words + 1, 0, 64),
+                 "tarn_PartselectAssign.*AreSameOrApart");
+    tarn_PartselectAssign(words + 1, words, 0, 64);
+    EXPECT_DEATH(tarn_MemoryWordPartselectAssign1(33, memory, words, 0, 8),
+                 "tarn_MemoryWordPartselectAssign1.*AreOneWord");
+    EXPECT_DEATH(tarn_MemoryWordPartselectAssign(10, memory, words, 8, 3),
+                 "tarn_MemoryWordPartselectAssign.*LiesInside");
+    tarn_MemoryWordIndexedPartselectAssign(10, memory, words, 8, 3);
+    EXPECT_DEATH(tarn_SignedCopyMemoryValue(32, words, 10, memory, 6),
+                 "tarn_SignedCopyMemoryValue.*spareBits = 6");
+    EXPECT_DEATH(tarn_MemoryWordPartselect(tarn_VectorRegister, 10, memory, 0, 3),
+                 "tarn_MemoryWordPartselect.*IsOutsideRegister");
+}
+
 TEST(Checked, AcceptsTheWidestDecimalText) {
     const std::vector<VectorWord> zeros(1'250'000);
     EXPECT_STREQ(tarn_UnsignedConvertToDec(40'000'000, zeros.data(), 0, 0), "0");

@@ -166,8 +166,14 @@ TEST(MemoryWord, AssignMatchesModel) {
 }
 
 TEST(MemoryWord, KnownBytes) {
-    const std::uint8_t bytes[] = {0xA5, 0x02, 0x01, 0x00};
-    EXPECT_EQ(ToBytes(Words(10, {{0x2A5, 0x001}})), Bytes(std::begin(bytes), std::end(bytes)));
+    const Bytes expected = {0xA5, 0x02, 0x01, 0x00};
+    const VectorWord value{0x2A5, 0x1};
+    Bytes memory(4, 0xFF);
+    tarn_MemoryWordAssign(10, memory.data(), &value);
+    EXPECT_EQ(memory, expected);
+    WordList words(2, kPaint);
+    tarn_UnsignedCopyMemoryValue(40, words.data(), 10, memory.data(), 22);
+    EXPECT_EQ(Words(40, words), Words(40, {{0x2A5, 0x1}, {0, 0}}));
 }
 
 /*------------------------------------------------------------------------------------------------

@@ -55,7 +55,11 @@ inline bool AssignIndexedField(Result target, const VectorWord* value, int index
                                std::min(width, target.width - index));
 }
 
-// Whether a field has a bit inside a vector of a width; nothing overflows, whatever the numbers.
+// Whether a field lies inside a vector of a width, or at least a bit of it does; nothing overflows,
+// whatever the numbers.
+constexpr bool LiesInside(int targetWidth, int index, int width) noexcept {
+    return width >= 1 && index >= 0 && std::int64_t{index} + width <= targetWidth;
+}
 constexpr bool ReachesInto(int targetWidth, int index, int width) noexcept {
     return width >= 1 && index < targetWidth && std::int64_t{index} + width > 0;
 }

@@ -146,14 +146,24 @@ inline bool Pack(int memoryWidth, std::uint8_t* memory, const VectorWord* value)
     });
 }
 
-// result = the `width` bits of the memory word from bit `low` upward. The register holds the memory
-// word afterwards; so it does after the two operations below.
-void ReadMemoryField(VectorWord* result, int memoryWidth, const std::uint8_t* memory, int low,
-                     int width) noexcept;
+void ReadWideMemoryField(VectorWord* result, int memoryWidth, const std::uint8_t* memory, int index,
+                         int width) noexcept;
 
-// The same for a field anywhere, with X for the bits outside the memory word.
-void ReadIndexedMemoryField(VectorWord* result, int memoryWidth, const std::uint8_t* memory,
-                            int index, int width) noexcept;
+// result = the `width` bits of the memory word from bit `index` upward, clean above the width, with
+// X for the bits that the memory word does not have. The register holds the memory word afterwards;
+// so it does after AssignMemoryField.
+inline void ReadMemoryField(VectorWord* result, int memoryWidth, const std::uint8_t* memory,
+                            int index, int width) noexcept {
+    if (AreOneWord(memoryWidth) && LiesInside(memoryWidth, index, width)) {
+        const Word word =
+            ExtendTop<ZeroExtend>(LoadNarrow(memoryWidth, memory), SpareBits(memoryWidth));
+        StoreWord(tarn_VectorRegister, word);
+        // What the shift carries from bval into aval lies above the mask.
+        StoreWord(result, (word >> index) & InBothHalves(LowMask(width)));
+        return;
+    }
+    ReadWideMemoryField(result, memoryWidth, memory, index, width);
+}
 
 // The bits of the memory word from bit `index` upward become the `width` bits of value, as far as
 // the memory word has them; its spare bits become 0. A field wholly outside writes nothing.

@@ -7,21 +7,17 @@
 namespace tarn {
 namespace {
 
-bool IsMemoryWord(int memoryWidth, const std::uint8_t* memory) noexcept {
+[[maybe_unused]] bool IsMemoryWord(int memoryWidth, const std::uint8_t* memory) noexcept {
     return memoryWidth >= 1 && memory != nullptr;
 }
 
 // Whether no byte of the memory word lies in the words of the vector.
-bool IsApart(int memoryWidth, const std::uint8_t* memory, int width,
-             const VectorWord* words) noexcept {
+[[maybe_unused]] bool IsApart(int memoryWidth, const std::uint8_t* memory, int width,
+                              const VectorWord* words) noexcept {
     const auto memoryFirst = reinterpret_cast<std::uintptr_t>(memory);
     const auto first = reinterpret_cast<std::uintptr_t>(words);
     return width < 1 || memoryFirst + 2 * HalfByteCount(memoryWidth) <= first ||
            first + WordCount(width) * sizeof(VectorWord) <= memoryFirst;
-}
-
-bool IsInside(int memoryWidth, int low, int width) noexcept {
-    return low >= 0 && std::int64_t{low} + width <= memoryWidth;
 }
 
 }  // namespace
@@ -90,20 +86,20 @@ int tarn_NotIdenticalMemoryWordAssign(int memoryWidth, std::uint8_t* memory,
 void tarn_MemoryWordPartselect(VectorWord* result, int memoryWidth, const std::uint8_t* memory,
                                int low, int width) noexcept {
     TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, result, low, width);
-    TARN_REQUIRE(IsInside(memoryWidth, low, width));
+    TARN_REQUIRE(LiesInside(memoryWidth, low, width));
     ReadMemoryField(result, memoryWidth, memory, low, width);
 }
 
 void tarn_MemoryWordIndexedPartselect(VectorWord* result, int memoryWidth,
                                       const std::uint8_t* memory, int index, int width) noexcept {
     TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, result, index, width);
-    ReadIndexedMemoryField(result, memoryWidth, memory, index, width);
+    ReadMemoryField(result, memoryWidth, memory, index, width);
 }
 
 void tarn_MemoryWordPartselectAssign(int memoryWidth, std::uint8_t* memory, const VectorWord* value,
                                      int low, int width) noexcept {
     TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, value, low, width);
-    TARN_REQUIRE(IsInside(memoryWidth, low, width));
+    TARN_REQUIRE(LiesInside(memoryWidth, low, width));
     AssignMemoryField<Overwrite>(memoryWidth, memory, value, low, width);
 }
 
@@ -118,7 +114,7 @@ int tarn_NotIdenticalMemoryWordPartselectAssign(int memoryWidth, std::uint8_t* m
                                                 const VectorWord* value, int low,
                                                 int width) noexcept {
     TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, value, low, width);
-    TARN_REQUIRE(IsInside(memoryWidth, low, width));
+    TARN_REQUIRE(LiesInside(memoryWidth, low, width));
     return AssignMemoryField<OverwriteAndCompare>(memoryWidth, memory, value, low, width);
 }
 
@@ -132,7 +128,7 @@ int tarn_NotIdenticalMemoryWordIndexedPartselectAssign(int memoryWidth, std::uin
 void tarn_MemoryWordPartselectAssign1(int memoryWidth, std::uint8_t* memory,
                                       const VectorWord* value, int low, int width) noexcept {
     TARN_REQUIRE_NARROW_FIELD(memoryWidth, memory, value, low, width);
-    TARN_REQUIRE(IsInside(memoryWidth, low, width));
+    TARN_REQUIRE(LiesInside(memoryWidth, low, width));
     AssignNarrowField(memoryWidth, memory, value, low, width);
 }
 
@@ -140,7 +136,7 @@ int tarn_NotIdenticalMemoryWordPartselectAssign1(int memoryWidth, std::uint8_t* 
                                                  const VectorWord* value, int low,
                                                  int width) noexcept {
     TARN_REQUIRE_NARROW_FIELD(memoryWidth, memory, value, low, width);
-    TARN_REQUIRE(IsInside(memoryWidth, low, width));
+    TARN_REQUIRE(LiesInside(memoryWidth, low, width));
     return AssignNarrowField(memoryWidth, memory, value, low, width);
 }
 
