@@ -30,7 +30,9 @@ inline Bytes LoadBytes(const char* from) noexcept {
     return bytes;
 }
 
-inline void StoreBytes(char* to, Bytes bytes) noexcept {
+// By reference: only some processors pass wider ones in a register.
+template <class AnyBytes>
+[[gnu::always_inline]] inline void StoreBytes(char* to, const AnyBytes& bytes) noexcept {
     std::memcpy(to, &bytes, sizeof bytes);
 }
 
