@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "core/words.h"
-#include "text/byte_vector.h"
+#include "text/digit_blocks.h"
 #include "text/parse.h"
 
 namespace tarn {
@@ -37,6 +37,12 @@ class BitGatherer {
         bval_ = 0;
     }
 
+    // Where the next word goes, if nothing is pending; null otherwise.
+    VectorWord* NextWord() const noexcept { return pending_ == 0 ? next_ : nullptr; }
+
+    // Takes words that have been stored there.
+    void Skip(std::size_t count) noexcept { next_ += count; }
+
     // Stores what is left, if any; returns the address behind the last word stored.
     VectorWord* Finish() noexcept {
         if (pending_ > 0) {
@@ -57,82 +63,32 @@ class BitGatherer {
     VectorWord* next_;
 };
 
-// A block parser reads the kDigits characters in front of `end`, if all of them are known digits,
-// into `bits`; otherwise it returns false and the characters are read one by one.
-struct BinaryBlock {
-    static constexpr std::size_t kDigits = 32;
-    static constexpr unsigned kBits = 32;
-
-    static bool Read(const char* end, std::uint64_t* bits) noexcept {
-        std::uint64_t value = 0, other = 0;
-        for (std::size_t i = 0; i < 4; ++i) {
-            std::uint64_t eight;
-            std::memcpy(&eight, end - kDigits + 8 * i, sizeof eight);
-            eight ^= 0x3030303030303030;  // the bytes of eight zeros
-            other |= eight;
-            // Byte k (of 0 or 1, the first character in byte 0) moves to bit 63 - k of the product.
-            value = value << 8 | (eight * 0x8040201008040201) >> 56;
-        }
-        *bits = value;
-        return (other & 0xFEFEFEFEFEFEFEFE) == 0;
-    }
-};
-
-struct OctalBlock {
-    static constexpr std::size_t kDigits = 8;
-    static constexpr unsigned kBits = 24;
-
-    static bool Read(const char* end, std::uint64_t* bits) noexcept {
-        std::uint64_t eight;
-        std::memcpy(&eight, end - kDigits, sizeof eight);
-        eight = __builtin_bswap64(eight) ^ 0x3030303030303030;
-        if ((eight & 0xF8F8F8F8F8F8F8F8) != 0) return false;
-        // Pairs of 3-bit lanes close up: to 6 bits of 16, 12 of 32, 24 of 64.
-        eight = (eight | eight >> 5) & 0x003F003F003F003F;
-        eight = (eight | eight >> 10) & 0x00000FFF00000FFF;
-        *bits = (eight | eight >> 20) & 0xFFFFFF;
-        return true;
-    }
-};
-
-struct HexadecimalBlock {
-    static constexpr std::size_t kDigits = 16;
-    static constexpr unsigned kBits = 64;
-
-    static bool Read(const char* end, std::uint64_t* bits) noexcept {
-        const Bytes text = LoadBytes(end - kDigits);
-        const Bytes digit = text - AllBytes('0');
-        const Bytes letter = (text | AllBytes('a' - 'A')) - AllBytes('a');
-        const Bytes isDigit = AsMask(digit < AllBytes(10));
-        const Bytes isLetter = AsMask(letter < AllBytes(6));
-        const Limbs valid = reinterpret_cast<Limbs>(isDigit | isLetter);
-        const Bytes value = (isDigit & digit) | (isLetter & (letter + AllBytes(10)));
-        // In each pair the first character holds the upper nibble; the low byte of the pair takes
-        // both.
-        using Pairs = std::uint16_t __attribute__((vector_size(16)));
-        const Pairs pairs = reinterpret_cast<Pairs>(value);
-        using HalfBytes = std::uint8_t __attribute__((vector_size(8)));
-        const auto packed = __builtin_convertvector((pairs << 4 | pairs >> 8) & 0xFF, HalfBytes);
-        *bits = __builtin_bswap64(reinterpret_cast<std::uint64_t>(packed));
-        return (valid[0] & valid[1]) == ~std::uint64_t{0};
-    }
-};
-
+// Reads words from the end of the text as long as they are known digits, if there are enough of
+// them to be worth a call; returns the new end of the text.
 template <class Layout>
-struct BlockOf;
-template <>
-struct BlockOf<Binary> : BinaryBlock {};
-template <>
-struct BlockOf<Octal> : OctalBlock {};
-template <>
-struct BlockOf<Hexadecimal> : HexadecimalBlock {};
+const char* ReadWords(const char* begin, const char* end, std::size_t* bitsLeft,
+                      BitGatherer* gatherer) noexcept {
+    constexpr std::size_t kWordsWorthACall = 4;
+    constexpr std::size_t kDigits = kWordBits / Layout::kBits;
+    const std::size_t most =
+        std::min(*bitsLeft / kWordBits, static_cast<std::size_t>(end - begin) / kDigits);
+    VectorWord* const next = gatherer->NextWord();
+    if (most < kWordsWorthACall || next == nullptr) return end;
+    const std::size_t count = RunKernel<ReadDigitsKernel<Layout>>(next, end, most);
+    gatherer->Skip(count);
+    *bitsLeft -= count * kWordBits;
+    return end - count * kDigits;
+}
 
 // Reads blocks from the end of the text while all their characters are known digits and the width
 // has room for them; returns the new end of the text.
 template <class Layout>
 const char* ReadBlocks(const char* begin, const char* end, std::size_t* bitsLeft,
                        BitGatherer* gatherer) noexcept {
-    using Block = BlockOf<Layout>;
+    using Block = DigitBlock<Layout>;
+    if constexpr (kWordBits % Layout::kBits == 0) {
+        end = ReadWords<Layout>(begin, end, bitsLeft, gatherer);
+    }
     std::uint64_t bits = 0;
     while (*bitsLeft >= Block::kBits && static_cast<std::size_t>(end - begin) >= Block::kDigits &&
            Block::Read(end, &bits)) {
@@ -189,7 +145,7 @@ Fit ParseRadixDigits(Result result, std::string_view digits) noexcept {
         }
         // A block that holds something else than known digits is read one by one before the next
         // try.
-        constexpr std::ptrdiff_t kTogether = BlockOf<Layout>::kDigits;
+        constexpr std::ptrdiff_t kTogether = DigitBlock<Layout>::kDigits;
         const char* const stop = end - std::min(end - begin, kTogether);
         while (bitsLeft > 0 && end > stop) {
             const Digit digit = DigitOf(*--end);
