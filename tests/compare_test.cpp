@@ -44,6 +44,7 @@ int Equal(const Vec& a, const Vec& b) {
 
 template <const Outcomes& outcomes, Extension extension>
 int Unequal(const Vec& a, const Vec& b) {
+    if (a.width < 1 || b.width < 1) return 0;
     const int equal = Equal<outcomes, extension>(a, b);
     return equal == 3 ? 3 : 1 - equal;
 }

@@ -16,8 +16,8 @@ TARNLIB_BEGIN_C
  *----------------------------------------------------------------------------------------------*/
 
 /** Logical equality, a == b (Eq), and inequality, a != b (NEq).
- *  widths    bits, at least 1, and either operand may be the wider one. With a width below 1 Eq
- *            returns 0 and NEq 1.
+ *  widths    bits, at least 1, and either operand may be the wider one. With a width below 1
+ *            both return 0.
  *  unknown   a position where a or b is X or Z leaves the result X, unless another position has
  *            two known bits that differ.
  *  top word  takes part as a whole: bits above the width are compared like the others.
@@ -39,8 +39,8 @@ TARNLIB_API LogicCode tarn_UnsignedNEq(int aWidth, const VectorWord* a, int bWid
                                        const VectorWord* b) TARNLIB_NOEXCEPT;
 
 /** Case equality, a === b (CaseEq), and inequality, a !== b (CaseNEq).
- *  widths    bits, at least 1, and either operand may be the wider one. With a width below 1 CaseEq
- *            returns 0 and CaseNEq 1.
+ *  widths    bits, at least 1, and either operand may be the wider one. With a width below 1
+ *            both return 0.
  *  unknown   X and Z are values like 0 and 1: X equals X alone, Z equals Z alone.
  *  top word  takes part as a whole: bits above the width are compared like the others.
  *  returns   CaseEq: 1 where all bits are the same, else 0. CaseNEq: 0 and 1.
@@ -82,8 +82,8 @@ TARNLIB_API LogicCode tarn_UnsignedCaseZEq(int aWidth, const VectorWord* a, int 
                                            const VectorWord* b) TARNLIB_NOEXCEPT;
 
 /** Wildcard equality, a ==? b (WildEq), and inequality, a !=? b (WildNEq).
- *  widths    bits, at least 1, and either operand may be the wider one. With a width below 1 WildEq
- *            returns 0 and WildNEq 1.
+ *  widths    bits, at least 1, and either operand may be the wider one. With a width below 1
+ *            both return 0.
  *  unknown   an X or Z of b is a wildcard and matches any bit of a. An X or Z of a at a known bit
  *            of b leaves the result X, unless another position has two known bits that differ.
  *  top word  takes part as a whole: bits above the width are compared like the others.

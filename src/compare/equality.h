@@ -127,22 +127,28 @@ constexpr LogicCode Verdict(const Findings<Word>& found) noexcept {
 template <class Rule, class Extend>
 LogicCode MatchWide(Operand a, Operand b) noexcept;
 
+template <class Rule>
+inline LogicCode MatchOneWord(Operand a, Operand b) noexcept {
+    Findings<Word> found;
+    Rule::Compare(LoadWord(a.words), LoadWord(b.words), found);
+    return Verdict(found);
+}
+
 // Whether a matches b under the rule; 0 where a width is below 1.
 template <class Rule, class Extend>
 inline LogicCode Match(Operand a, Operand b) noexcept {
-    if (AreOneWord(a.width, b.width)) {
-        Findings<Word> found;
-        Rule::Compare(LoadWord(a.words), LoadWord(b.words), found);
-        return Verdict(found);
-    }
+    if (AreOneWord(a.width, b.width)) return MatchOneWord<Rule>(a, b);
     return MatchWide<Rule, Extend>(a, b);
 }
 
 inline constexpr LogicCode kLogicNot[] = {TARN_LOGIC_1, TARN_LOGIC_0, TARN_LOGIC_X, TARN_LOGIC_X};
 
+// The opposite; 0 as well where a width is below 1.
 template <class Rule, class Extend>
 inline LogicCode Mismatch(Operand a, Operand b) noexcept {
-    return kLogicNot[Match<Rule, Extend>(a, b)];
+    if (AreOneWord(a.width, b.width)) return kLogicNot[MatchOneWord<Rule>(a, b)];
+    if (a.width < 1 || b.width < 1) return TARN_LOGIC_0;
+    return kLogicNot[MatchWide<Rule, Extend>(a, b)];
 }
 
 }  // namespace tarn
