@@ -14,16 +14,14 @@ TARNLIB_BEGIN_C
  *----------------------------------------------------------------------------------------------*/
 
 /** Bitwise and: result = a & b.
- *  widths    bits, any; pass the wider operand first by custom, though either order is right. An
- *            operand of fewer words than the result is extended (Signed: by bit 31 of its top word,
- *            aval and bval each by its own; Unsigned: by zeros). Of one with more words the low
- *            words are taken. An operand of width below 1 counts as 0.
+ *  widths    bits, any. An operand of fewer words than the result is extended (Signed: by bit 31 of
+ *            its top word, aval and bval each by its own; Unsigned: by zeros). Of one with more
+ *            words the low words are taken. An operand of width below 1 counts as 0.
  *  unknown   0 with anything is 0, 1 with 1 is 1, all else is X. A sign bit that is X or Z extends
  *            as X or Z.
  *  top word  all 32 bits of each top word take part, and the bits of the result above the width
  *            are what the rule gives there; none is cleared.
- *  writes    exactly N(resultWidth) words; none for a width below 1. Unsigned reads neither operand
- *            beyond the words of the other.
+ *  writes    exactly N(resultWidth) words; none for a width below 1.
  *  aliasing  result may be a or b itself; partly overlapping storage is not supported.
  *  limits    may run in any thread.
  *  source    IEEE 1364-2005, 5.1.10 and 7.2
@@ -40,8 +38,7 @@ TARNLIB_API void tarn_UnsignedBitwiseAND(int resultWidth, VectorWord* result, in
  *  widths    bits, any; operands are extended or cut as in tarn_SignedBitwiseAND.
  *  unknown   0 with anything is 1, 1 with 1 is 0, all else is X.
  *  top word  as in tarn_SignedBitwiseAND; above the width of unsigned operands that makes ones.
- *  writes    exactly N(resultWidth) words; none for a width below 1. Unsigned reads neither operand
- *            beyond the words of the other.
+ *  writes    exactly N(resultWidth) words; none for a width below 1.
  *  aliasing  result may be a or b itself; partly overlapping storage is not supported.
  *  limits    may run in any thread.
  *  source    IEEE 1364-2005, 7.2

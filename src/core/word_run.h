@@ -3,6 +3,7 @@
 #ifndef TARN_CORE_WORD_RUN_H
 #define TARN_CORE_WORD_RUN_H
 
+#include "core/halves.h"
 #include "core/lanes.h"
 #include "core/vector.h"
 
@@ -25,6 +26,10 @@ struct OwnWords {
     TARN_KERNEL void Load(std::size_t index, Lanes& lanes) const noexcept {
         LoadLanes(lanes, words + index);
     }
+    template <std::size_t kCount>
+    TARN_KERNEL void Load(std::size_t index, Halves<kCount>& halves) const noexcept {
+        LoadHalves(halves, words + index);
+    }
 };
 
 struct RepeatedWord {
@@ -34,6 +39,18 @@ struct RepeatedWord {
     RepeatedWord From(std::size_t) const noexcept { return *this; }
 
     TARN_KERNEL void Load(std::size_t, Word& to) const noexcept { to = word; }
+    template <std::size_t kCount>
+    TARN_KERNEL void Load(std::size_t, Halves<kCount>& halves) const noexcept {
+        RepeatWord(halves, word);
+    }
+};
+
+// The zeros above an unsigned operand, which the compiler knows.
+struct ZeroWord {
+    template <std::size_t kCount>
+    TARN_KERNEL void Load(std::size_t, Halves<kCount>& halves) const noexcept {
+        halves = {BitsOf<kCount>{}, BitsOf<kCount>{}};
+    }
 };
 
 // Spread over lanes once: the compiler would do it again for each group of lanes.

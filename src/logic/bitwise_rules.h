@@ -1,57 +1,76 @@
-// The bitwise operators on one word of each operand, aval and bval together, and the proof of each.
-//
-// A shift by 32 brings the bits of one half to those of the other; no rule needs more than shifts
-// and bit operations, so that the compiler vectorises them.
+// The bitwise operators on the bits of aval and bval, and the proof of each by its truth table.
 #ifndef TARN_LOGIC_BITWISE_RULES_H
 #define TARN_LOGIC_BITWISE_RULES_H
 
-#include "core/word.h"
+#include "core/halves.h"
 
 namespace tarn {
 
 // Z becomes X.
-constexpr Word BufferWord(Word a) noexcept {
-    return a | (a >> 32);
-}
+struct BufferRule {
+    template <std::size_t kCount>
+    TARN_KERNEL static constexpr Halves<kCount> Of(const Halves<kCount>& a) noexcept {
+        return {a.aval | a.bval, a.bval};
+    }
+};
 
-constexpr Word InvertWord(Word a) noexcept {
-    return (a ^ kValueBits) | (a >> 32);
-}
+struct InvertRule {
+    template <std::size_t kCount>
+    TARN_KERNEL static constexpr Halves<kCount> Of(const Halves<kCount>& a) noexcept {
+        return {~a.aval | a.bval, a.bval};
+    }
+};
 
-// Both operands not 0, in the low half, is the aval; where either is unknown as well, the bval. The
-// high half of `both` already holds a part of the bval: both unknown.
-constexpr Word AndWords(Word a, Word b) noexcept {
-    const Word both = BufferWord(a) & BufferWord(b);
-    return both | ((both << 32) & (a | b));
-}
+struct AndRule {
+    template <std::size_t kCount>
+    TARN_KERNEL static constexpr Halves<kCount> Of(const Halves<kCount>& a,
+                                                   const Halves<kCount>& b) noexcept {
+        const BitsOf<kCount> neitherIsZero = (a.aval | a.bval) & (b.aval | b.bval);
+        return {neitherIsZero, neitherIsZero & (a.bval | b.bval)};
+    }
+};
 
-// The low half of `ones` holds the known ones of either operand, which overrule unknown bits.
-constexpr Word OrWords(Word a, Word b) noexcept {
-    const Word ones = (a & ~(a >> 32)) | (b & ~(b >> 32));
-    return BufferWord(a | b) & ~(ones << 32);
-}
+struct OrRule {
+    template <std::size_t kCount>
+    TARN_KERNEL static constexpr Halves<kCount> Of(const Halves<kCount>& a,
+                                                   const Halves<kCount>& b) noexcept {
+        const BitsOf<kCount> unknown = a.bval | b.bval;
+        const BitsOf<kCount> noOne = ~(a.aval & ~a.bval) & ~(b.aval & ~b.bval);
+        return {a.aval | b.aval | unknown, unknown & noOne};
+    }
+};
 
-constexpr Word XorWords(Word a, Word b) noexcept {
-    const Word either = a | b;
-    return (a ^ b) | (either >> 32) | (either & kUnknownBits);
-}
+struct XorRule {
+    template <std::size_t kCount>
+    TARN_KERNEL static constexpr Halves<kCount> Of(const Halves<kCount>& a,
+                                                   const Halves<kCount>& b) noexcept {
+        const BitsOf<kCount> unknown = a.bval | b.bval;
+        return {(a.aval ^ b.aval) | unknown, unknown};
+    }
+};
 
-constexpr Word NandWords(Word a, Word b) noexcept {
-    return InvertWord(AndWords(a, b));
-}
+// What differs is unknown.
+struct MixRule {
+    template <std::size_t kCount>
+    TARN_KERNEL static constexpr Halves<kCount> Of(const Halves<kCount>& a,
+                                                   const Halves<kCount>& b) noexcept {
+        const BitsOf<kCount> unknown = a.bval | b.bval;
+        return {a.aval | b.aval | unknown, (a.aval ^ b.aval) | unknown};
+    }
+};
 
-constexpr Word NorWords(Word a, Word b) noexcept {
-    return InvertWord(OrWords(a, b));
-}
+template <class Rule>
+struct InvertedRule {
+    template <std::size_t kCount>
+    TARN_KERNEL static constexpr Halves<kCount> Of(const Halves<kCount>& a,
+                                                   const Halves<kCount>& b) noexcept {
+        return InvertRule::Of(Rule::Of(a, b));
+    }
+};
 
-constexpr Word XnorWords(Word a, Word b) noexcept {
-    return XorWords(a, b ^ kValueBits);
-}
-
-// What differs in aval is unknown.
-constexpr Word MixWords(Word a, Word b) noexcept {
-    return BufferWord(a | b) | ((a ^ b) << 32);
-}
+using NandRule = InvertedRule<AndRule>;
+using NorRule = InvertedRule<OrRule>;
+using XnorRule = InvertedRule<XorRule>;
 
 // Sixteen bits twice, in which every value of one operand (kRows: 0000 1111 zzzz xxxx, bit 0 first)
 // meets every value of the other (kColumns: 01zx 01zx 01zx 01zx).
@@ -74,15 +93,15 @@ consteval Word FromTable(const char* table) {
 static_assert(FromTable("0000 1111 zzzz xxxx") == kRows);
 static_assert(FromTable("01zx 01zx 01zx 01zx") == kColumns);
 
-static_assert(BufferWord(kRows) == FromTable("0000 1111 xxxx xxxx"));
-static_assert(InvertWord(kRows) == FromTable("1111 0000 xxxx xxxx"));
-static_assert(AndWords(kRows, kColumns) == FromTable("0000 01xx 0xxx 0xxx"));
-static_assert(NandWords(kRows, kColumns) == FromTable("1111 10xx 1xxx 1xxx"));
-static_assert(OrWords(kRows, kColumns) == FromTable("01xx 1111 x1xx x1xx"));
-static_assert(NorWords(kRows, kColumns) == FromTable("10xx 0000 x0xx x0xx"));
-static_assert(XorWords(kRows, kColumns) == FromTable("01xx 10xx xxxx xxxx"));
-static_assert(XnorWords(kRows, kColumns) == FromTable("10xx 01xx xxxx xxxx"));
-static_assert(MixWords(kRows, kColumns) == FromTable("0xxx x1xx xxxx xxxx"));
+static_assert(ApplyRule<BufferRule>(kRows) == FromTable("0000 1111 xxxx xxxx"));
+static_assert(ApplyRule<InvertRule>(kRows) == FromTable("1111 0000 xxxx xxxx"));
+static_assert(ApplyRule<AndRule>(kRows, kColumns) == FromTable("0000 01xx 0xxx 0xxx"));
+static_assert(ApplyRule<NandRule>(kRows, kColumns) == FromTable("1111 10xx 1xxx 1xxx"));
+static_assert(ApplyRule<OrRule>(kRows, kColumns) == FromTable("01xx 1111 x1xx x1xx"));
+static_assert(ApplyRule<NorRule>(kRows, kColumns) == FromTable("10xx 0000 x0xx x0xx"));
+static_assert(ApplyRule<XorRule>(kRows, kColumns) == FromTable("01xx 10xx xxxx xxxx"));
+static_assert(ApplyRule<XnorRule>(kRows, kColumns) == FromTable("10xx 01xx xxxx xxxx"));
+static_assert(ApplyRule<MixRule>(kRows, kColumns) == FromTable("0xxx x1xx xxxx xxxx"));
 
 }  // namespace tarn
 
