@@ -50,7 +50,8 @@ inline int DrawIndex(Gen& gen, int targetWidth, int width) {
     }
 }
 
-// What lies above the widest field, in the checked build, may belong to another vector.
+// The checked build also asks where a value of the field's width would end, so there the widest one
+// is left out.
 inline int DrawFieldWidth(Gen& gen) {
     return gen.OneIn(32) ? (kIsChecked ? 1 : INT_MAX) : gen.Width();
 }

@@ -71,7 +71,7 @@ static_assert(PackedWord<3>::Packed(MakeWord(0xAA123456, 0xBB789ABC)) == 0x789AB
 static_assert(PackedWord<3>::Unpacked(0x789ABC123456) == MakeWord(0x123456, 0x789ABC));
 static_assert(PackedWord<4>::Unpacked(0x789ABCDE12345678) == 0x789ABCDE12345678);
 
-// Calls step with the PackedWord of a width of 1 to 32; any other width gives what `otherwise` says.
+// Calls step with the PackedWord of a width of 1 to 32; any other width gives `otherwise`.
 template <class Step, class Returned>
 inline Returned WithPackedWord(int memoryWidth, Returned otherwise, Step step) noexcept {
     switch ((static_cast<unsigned>(memoryWidth) + 7U) >> 3) {
