@@ -21,6 +21,17 @@ TEST(CheckedDeathTest, ReportsPartlyOverlappingStorage) {
     tarn_SignedMul(64, words, 64, words, 0, tarn_VectorRegister);
 }
 
+// A field reaches as far as its last bit does, an operand as far as it is placed.
+TEST(CheckedDeathTest, CountsTheWordsThatAFieldReaches) {
+    VectorWord words[4] = {};
+    EXPECT_DEATH(tarn_Partselect(words + 1, words, 30, 32), "tarn_Partselect.*SpanFrom");
+    tarn_Partselect(words + 1, words, 0, 32);
+    EXPECT_DEATH(tarn_Concatenate(64, words, 32, words + 1, 1), "tarn_Concatenate.*SpanFrom");
+    tarn_Concatenate(32, words, 32, words + 1, 1);
+    EXPECT_DEATH(tarn_LogicalShiftLeft(64, words + 1, 32, words, 1),
+                 "tarn_LogicalShiftLeft.*resultWidth = 64.*amount = 1");
+}
+
 TEST(CheckedDeathTest, ReportsMissingAndMisalignedVectors) {
     VectorWord words[2] = {};
     EXPECT_DEATH(tarn_Inc(1, nullptr), "tarn_Inc.*IsVector\\(width, v\\).*width = 1, v = 0");
