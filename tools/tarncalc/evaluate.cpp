@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "diagnostic.h"
+#include "operations.h"
 
 namespace tarncalc {
 
@@ -13,7 +14,7 @@ namespace {
 
 // The bits of all values that exist at one time; a bit of a value is two bits of storage. A line of
 // text can ask for more than any machine has.
-constexpr std::uint64_t kMaxLiveBits = 2'000'000'000;
+constexpr std::int64_t kMaxLiveBits = 2'000'000'000;
 
 // The bits of a power times those of its exponent, each of which asks for one or two products. At
 // this bound they take about half a minute, be it the power or the exponent that is wide.
@@ -23,51 +24,38 @@ constexpr std::uint64_t kMaxPowerWork = 10'000'000'000;
 // division has the lowest.
 static_assert(TARN_MAX_LITERAL_WIDTH <= 10'000'000);
 
-using UnaryFunction = decltype(&tarn_SignedMinus);
-using BinaryFunction = decltype(&tarn_SignedAdd);
-
-UnaryFunction FunctionOf(UnaryOperator op, bool isSigned) {
-    switch (op) {
-        case UnaryOperator::kPlus:
-            return isSigned ? tarn_SignedPlus : tarn_UnsignedPlus;
-        case UnaryOperator::kMinus:
-            return isSigned ? tarn_SignedMinus : tarn_UnsignedMinus;
-    }
-    return nullptr;
-}
-
-/** The signs are those of the operands; they differ at most where the right one determines its own
- *  type. */
-BinaryFunction FunctionOf(BinaryOperator op, bool isSigned, bool isRightSigned) {
-    switch (op) {
-        case BinaryOperator::kPower:
-            if (isRightSigned) return isSigned ? tarn_SignedSPower : tarn_UnsignedSPower;
-            return isSigned ? tarn_SignedUPower : tarn_UnsignedUPower;
-        case BinaryOperator::kMultiply:
-            return isSigned ? tarn_SignedMul : tarn_UnsignedMul;
-        case BinaryOperator::kDivide:
-            return isSigned ? tarn_SignedDiv : tarn_UnsignedDiv;
-        case BinaryOperator::kModulo:
-            return isSigned ? tarn_SignedMod : tarn_UnsignedMod;
-        case BinaryOperator::kAdd:
-            return isSigned ? tarn_SignedAdd : tarn_UnsignedAdd;
-        case BinaryOperator::kSubtract:
-            return isSigned ? tarn_SignedSub : tarn_UnsignedSub;
-    }
-    return nullptr;
-}
-
 /** Whether base ** exponent, as wide as the base, is calculated in bearable time. Even bases,
  *  unknown exponents and those below zero make no work: their powers are found at once. */
 bool IsPowerFeasible(const Value& base, const Value& exponent) {
-    const std::size_t maxExponentBits = kMaxPowerWork / std::size_t(base.GetType().width);
-    const auto exponentWidth = std::size_t(exponent.GetType().width);
+    const std::size_t maxExponentBits = kMaxPowerWork / static_cast<std::size_t>(base.Width());
+    const auto exponentWidth = static_cast<std::size_t>(exponent.Width());
     const bool isOdd = (base.Words()->aval & 1U) != 0;
     if (exponentWidth <= maxExponentBits || !isOdd) return true;
-    const std::string_view bits = tarn_ConvertToBin(exponent.GetType().width, exponent.Words(), 0);
+    const std::string_view bits = tarn_ConvertToBin(exponent.Width(), exponent.Words(), 0);
     const bool isNegative = exponent.GetType().isSigned && bits.size() == exponentWidth;
     const bool isKnown = bits.find_first_not_of("01") == std::string_view::npos;
     return bits.size() <= maxExponentBits || isNegative || !isKnown;
+}
+
+/** The operands that share a type, as places in their operator's row of operands. */
+struct SharedOperands {
+    std::size_t begin, end;
+};
+
+SharedOperands SharedOperandsOf(const OperatorRow& row) {
+    const auto count = static_cast<std::size_t>(row.operandCount);
+    switch (row.sizing) {
+        case Sizing::kAll:
+        case Sizing::kCompared:
+            return {0, count};
+        case Sizing::kAllButFirst:
+            return {1, count};
+        case Sizing::kAllButLast:
+            return {0, count - 1};
+        case Sizing::kNone:
+            break;
+    }
+    return {0, 0};
 }
 
 /** The rules of IEEE 1364-2005, 5.4 and 5.5: types are determined from the operands up, then the
@@ -87,13 +75,13 @@ class Evaluator {
   private:
     void DetermineTypes() {
         for (NodeIndex index = 0; index < tree_.size(); ++index) {
-            const auto determine = [this](const auto& content) { return DetermineType(content); };
+            const auto determine = [&](const auto& content) { return OwnType(content, index); };
             types_[index] = std::visit(determine, tree_[index].content);
         }
     }
 
     /** A literal's type is known when its value is made. */
-    Type DetermineType(const Literal& literal) {
+    Type OwnType(const Literal& literal, NodeIndex /*index*/) {
         bool isCut = false;
         literals_.emplace_back(literal, isCut);
         if (isCut) cutLiterals_.push_back(literal.spelling);
@@ -102,23 +90,35 @@ class Evaluator {
         return type;
     }
 
-    Type DetermineType(const UnaryNode& node) const { return types_[node.operand]; }
+    Type OwnType(const OperatorNode& node, NodeIndex index) const {
+        const Sizing sizing = node.row->sizing;
+        const bool isBit = sizing == Sizing::kCompared || sizing == Sizing::kNone;
+        return isBit ? kBit : SharedType(*node.row, index);
+    }
 
-    Type DetermineType(const BinaryNode& node) const {
-        const Type& left = types_[node.left];
-        if (IsRightSelfDetermined(node.op)) return left;
-        const Type& right = types_[node.right];
-        return {std::max(left.width, right.width), left.isSigned && right.isSigned};
+    /** The type that the operands of an operator share, from what each of them is by itself. */
+    Type SharedType(const OperatorRow& row, NodeIndex index) const {
+        const auto operands = OperandsOf(tree_, index, row.operandCount);
+        const auto [begin, end] = SharedOperandsOf(row);
+        Type shared = types_[operands[begin]];
+        for (std::size_t place = begin + 1; place < end; ++place) {
+            const Type& type = types_[operands[place]];
+            shared = {std::max(shared.width, type.width), shared.isSigned && type.isSigned};
+        }
+        return shared;
     }
 
     void PassTypesDown() {
         for (NodeIndex index = tree_.size(); index-- > 0;) {
-            const Type type = types_[index];
-            if (const auto* const unary = std::get_if<UnaryNode>(&tree_[index].content)) {
-                types_[unary->operand] = type;
-            } else if (const auto* const binary = std::get_if<BinaryNode>(&tree_[index].content)) {
-                types_[binary->left] = type;
-                if (!IsRightSelfDetermined(binary->op)) types_[binary->right] = type;
+            const auto* const node = std::get_if<OperatorNode>(&tree_[index].content);
+            if (node == nullptr) continue;
+            const OperatorRow& row = *node->row;
+            const bool isCompared = row.sizing == Sizing::kCompared;
+            const Type shared = isCompared ? SharedType(row, index) : types_[index];
+            const auto operands = OperandsOf(tree_, index, row.operandCount);
+            const auto [begin, end] = SharedOperandsOf(row);
+            for (std::size_t place = begin; place < end; ++place) {
+                types_[operands[place]] = shared;
             }
         }
     }
@@ -127,43 +127,43 @@ class Evaluator {
     void Calculate() {
         nextLiteral_ = literals_.begin();
         for (NodeIndex index = 0; index < tree_.size(); ++index) {
-            const auto execute = [&](const auto& content) {
-                Execute(content, types_[index], tree_[index].position);
-            };
-            std::visit(execute, tree_[index].content);
+            const Node& node = tree_[index];
+            const auto execute = [&](const auto& content) { Execute(content, node.position); };
+            std::visit(execute, node.content);
+            // What has a type of its own is extended to that of its context.
+            ClaimBits(types_[index].width - stack_.back().Width(), node.position);
+            stack_.back().Convert(types_[index]);
         }
     }
 
-    void Execute(const Literal& /*literal*/, Type type, std::size_t position) {
-        Value value = std::move(*nextLiteral_++);
-        ClaimBits(type.width - value.GetType().width, position);
-        value.Convert(type);
-        stack_.push_back(std::move(value));
+    void Execute(const Literal& /*literal*/, std::size_t /*position*/) {
+        stack_.push_back(std::move(*nextLiteral_++));
     }
 
-    void Execute(const UnaryNode& node, Type type, std::size_t /*position*/) {
-        Value& operand = stack_.back();
-        FunctionOf(node.op, type.isSigned)(type.width, operand.Words(), type.width,
-                                           operand.Words());
-        operand.RestoreTopWord();
-    }
-
-    void Execute(const BinaryNode& node, Type type, std::size_t position) {
-        const Value right = std::move(stack_.back());
-        stack_.pop_back();
-        Value& left = stack_.back();
-        if (node.op == BinaryOperator::kPower && !IsPowerFeasible(left, right)) {
+    /** The first operand becomes the result. */
+    void Execute(const OperatorNode& node, std::size_t position) {
+        const auto operandCount = static_cast<std::size_t>(node.row->operandCount);
+        Value* const operands = &stack_[stack_.size() - operandCount];
+        for (std::size_t place = 0; place < operandCount; ++place) {
+            liveBits_ -= operands[place].Width();
+        }
+        const Operator op = node.row->op;
+        if (op == Operator::kPower && !IsPowerFeasible(operands[0], operands[1])) {
             throw ExpressionError(position, "this power would take too long to calculate");
         }
-        const auto [rightWidth, isRightSigned] = right.GetType();
-        FunctionOf(node.op, type.isSigned, isRightSigned)(type.width, left.Words(), type.width,
-                                                          left.Words(), rightWidth, right.Words());
-        left.RestoreTopWord();
-        liveBits_ -= static_cast<std::uint64_t>(rightWidth);
+        if (operandCount == 1) {
+            ApplyUnary(op, operands[0]);
+        } else if (operandCount == 2) {
+            ApplyBinary(op, operands[0], operands[1]);
+        } else {
+            ApplyConditional(operands[0], operands[1], operands[2]);
+        }
+        stack_.erase(stack_.end() - node.row->operandCount + 1, stack_.end());
+        liveBits_ += stack_.back().Width();
     }
 
     void ClaimBits(int bitCount, std::size_t position) {
-        liveBits_ += static_cast<std::uint64_t>(bitCount);
+        liveBits_ += bitCount;
         if (liveBits_ > kMaxLiveBits) {
             throw ExpressionError(position, "the expression needs too much storage");
         }
@@ -175,7 +175,7 @@ class Evaluator {
     std::vector<Value>::iterator nextLiteral_;
     std::vector<Value> stack_;
     std::vector<std::string_view> cutLiterals_;
-    std::uint64_t liveBits_ = 0;
+    std::int64_t liveBits_ = 0;
 };
 
 }  // namespace

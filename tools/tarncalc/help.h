@@ -20,6 +20,7 @@ history, until Ctrl-D.
   tarncalc -d "-8'sd5"              -8'sd5
   tarncalc -d "7 - 2*(4 + 1)"       -32'sd3
   tarncalc "4'b1x0z + 1"            32'hxxxxxxxx
+  tarncalc "8'hFF & 4'b1x0z"        8'b00001x0x
 
 Options hold for all expressions; of several bases the last one counts:
   -x           print in hexadecimal (the default)
@@ -44,28 +45,58 @@ Underscores may divide digits. x and z (or ?) are digits too, in decimal only
 alone. Spaces may stand before the quote and after the base. A width is at most
 10000000.
 
-Operators, the tightest first; those of one line group from the left:
-  + -          sign, with one operand: -2**2 is (-2)**2
+Operators, the tightest first; those of one line group from the left, but ?:
+from the right:
+  + - ! ~ & ~& | ~| ^ ~^ ^~
+               with one operand: sign; "is 0"; each bit inverted; AND, OR, XOR
+               of all bits, and their inverses: -2**2 is (-2)**2
   **           power
   * / %        product, quotient (cut toward zero), remainder (signed as the
                dividend)
   + -          sum, difference
+  << >> <<< >>>
+               shifts; >>> moves in copies of the top bit if the result is
+               signed, the others zeros
+  < <= > >=    order
+  == != === !== ==? !=?
+               equality; === compares x and z like other bits; for ==? an x or z
+               of the right operand matches anything
+  &            AND of each pair of bits
+  ^ ~^ ^~      exclusive OR and its inverse
+  |            OR
+  &&           "neither is 0"
+  ||           "one is not 0"
+  ?:           1 ? 2 : 3 is 2; an unknown condition gives the bits on which both
+               agree, and x for the others
 Parentheses group as usual.
 
-Widths and signs follow IEEE 1364. The result is as wide as the widest operand,
-and unsigned if any operand is. All operands are extended to that width before
-anything is calculated: by their top bit if the result is signed, else by
-zeros. Upper bits that the width can't hold are lost. An exponent stands aside:
-it keeps its own width and sign, and those of the result don't depend on it.
+Widths and signs follow IEEE 1364. The result of + - * / % & ^ ~^ | and ?: is as
+wide as the widest operand, and unsigned if any operand is. All operands are
+extended to that width before anything is calculated: by their top bit if the
+result is signed, else by zeros. Upper bits that the width can't hold are lost.
+Exponents, amounts of shifts and the condition of ?: stand aside: they keep
+their own width and sign, and those of the result don't depend on them. An
+amount is never negative. Comparisons, && || ! and the operators that take all
+bits of one operand give one unsigned bit. The operands of a comparison are
+extended to the wider one, and compared as signed if both are, whatever stands
+around it; those of the others keep their own width.
 
   tarncalc -d "2 ** 40"             32'sd0
   tarncalc -d "64'd2 ** 40"         64'd1099511627776
   tarncalc -d "-7 / 2"              -32'sd3
   tarncalc -d "8'd200 * 2 / 4"      32'd100
+  tarncalc "~4'h5 & 8'hff"          8'hfa
+  tarncalc "-8'sd1 < 8'sd1"         1'h1
+  tarncalc "8'sh80 >>> 3"           8'shf0
 
-An x or z in an operand makes the result of an operator x in every bit; so does
+An x or z in an operand of + - * / % ** makes the result x in every bit; so does
 division by zero, and a negative power of zero. Other negative powers are 0,
-except those of 1 and -1.
+except those of 1 and -1. Order with an x or z is x, equality with one is x
+unless other bits differ. An unknown amount makes a shift x in every bit. For
+the other operators each bit counts by itself:
+
+  tarncalc -b "4'b0011 & 4'b01xz"   4'b00xx
+  tarncalc -b "4'b10x0 == 4'b1001"  1'b0
 
 A result, given back as an expression, has the same value. So a negative number
 in decimal has its minus in front of the literal; and where an octal, decimal

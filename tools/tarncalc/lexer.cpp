@@ -14,14 +14,12 @@ std::string_view LongestSymbol(std::string_view text) {
     const auto tryOne = [&](std::string_view spelling) {
         if (spelling.size() > longest.size() && text.starts_with(spelling)) longest = spelling;
     };
-    for (const UnarySpelling& row : kUnaryOperators) {
+    for (const OperatorRow& row : kOperators) {
         tryOne(row.spelling);
     }
-    for (const BinarySpelling& row : kBinaryOperators) {
-        tryOne(row.spelling);
+    for (const std::string_view spelling : kPunctuation) {
+        tryOne(spelling);
     }
-    tryOne("(");
-    tryOne(")");
     return longest;
 }
 

@@ -1,43 +1,120 @@
-// The operators of expressions: their spellings, and how tightly they bind.
+// The operators of expressions: one table of what the parser and the rules of types need to know.
 #ifndef TARNCALC_OPERATORS_H
 #define TARNCALC_OPERATORS_H
 
+#include <cstddef>
 #include <string_view>
 
 namespace tarncalc {
 
-enum class UnaryOperator { kPlus, kMinus };
-enum class BinaryOperator { kPower, kMultiply, kDivide, kModulo, kAdd, kSubtract };
-
-struct UnarySpelling {
-    std::string_view spelling;
-    UnaryOperator op;
+enum class Operator {
+    kPlus,
+    kMinus,
+    kLogicalNot,
+    kNot,
+    kReduceAnd,
+    kReduceNand,
+    kReduceOr,
+    kReduceNor,
+    kReduceXor,
+    kReduceXnor,
+    kPower,
+    kMultiply,
+    kDivide,
+    kModulo,
+    kAdd,
+    kSubtract,
+    kShiftLeft,
+    kShiftRight,
+    kArithmeticShiftRight,
+    kLess,
+    kLessEqual,
+    kGreater,
+    kGreaterEqual,
+    kEqual,
+    kNotEqual,
+    kCaseEqual,
+    kCaseNotEqual,
+    kWildEqual,
+    kWildNotEqual,
+    kAnd,
+    kXor,
+    kXnor,
+    kOr,
+    kLogicalAnd,
+    kLogicalOr,
+    kConditional,
 };
 
-/** Every binary operator groups from left to right. The precedence counts the rows of IEEE
- *  1364-2005, table 5-4, from its foot (the conditional operator is 1): higher binds tighter. */
-struct BinarySpelling {
+/** Which operands share a type with the operator's result, after IEEE 1364-2005, 5.4 and 5.5. Every
+ *  other operand determines its own. */
+enum class Sizing {
+    kAll,          // all of them
+    kAllButFirst,  // the branches, not the condition
+    kAllButLast,   // what is shifted or raised, not by how much
+    kCompared,     // the operands share a type among themselves; the result is one unsigned bit
+    kNone,         // the result is one unsigned bit
+};
+
+struct OperatorRow {
     std::string_view spelling;
-    BinaryOperator op;
+    Operator op;
+    int operandCount;
     int precedence;
+    Sizing sizing;
 };
 
-inline constexpr UnarySpelling kUnaryOperators[] = {
-    {"+", UnaryOperator::kPlus},
-    {"-", UnaryOperator::kMinus},
+inline constexpr int kUnaryPrecedence = 13;
+inline constexpr int kConditionalPrecedence = 1;
+
+/** The precedence counts the rows of IEEE 1364-2005, table 5-4, from its foot: higher binds
+ *  tighter. Operators of one precedence group from the left, but ?: from the right. */
+inline constexpr OperatorRow kOperators[] = {
+    {"+", Operator::kPlus, 1, kUnaryPrecedence, Sizing::kAll},
+    {"-", Operator::kMinus, 1, kUnaryPrecedence, Sizing::kAll},
+    {"!", Operator::kLogicalNot, 1, kUnaryPrecedence, Sizing::kNone},
+    {"~", Operator::kNot, 1, kUnaryPrecedence, Sizing::kAll},
+    {"&", Operator::kReduceAnd, 1, kUnaryPrecedence, Sizing::kNone},
+    {"~&", Operator::kReduceNand, 1, kUnaryPrecedence, Sizing::kNone},
+    {"|", Operator::kReduceOr, 1, kUnaryPrecedence, Sizing::kNone},
+    {"~|", Operator::kReduceNor, 1, kUnaryPrecedence, Sizing::kNone},
+    {"^", Operator::kReduceXor, 1, kUnaryPrecedence, Sizing::kNone},
+    {"~^", Operator::kReduceXnor, 1, kUnaryPrecedence, Sizing::kNone},
+    {"^~", Operator::kReduceXnor, 1, kUnaryPrecedence, Sizing::kNone},
+    {"**", Operator::kPower, 2, 12, Sizing::kAllButLast},
+    {"*", Operator::kMultiply, 2, 11, Sizing::kAll},
+    {"/", Operator::kDivide, 2, 11, Sizing::kAll},
+    {"%", Operator::kModulo, 2, 11, Sizing::kAll},
+    {"+", Operator::kAdd, 2, 10, Sizing::kAll},
+    {"-", Operator::kSubtract, 2, 10, Sizing::kAll},
+    {"<<", Operator::kShiftLeft, 2, 9, Sizing::kAllButLast},
+    {"<<<", Operator::kShiftLeft, 2, 9, Sizing::kAllButLast},
+    {">>", Operator::kShiftRight, 2, 9, Sizing::kAllButLast},
+    {">>>", Operator::kArithmeticShiftRight, 2, 9, Sizing::kAllButLast},
+    {"<", Operator::kLess, 2, 8, Sizing::kCompared},
+    {"<=", Operator::kLessEqual, 2, 8, Sizing::kCompared},
+    {">", Operator::kGreater, 2, 8, Sizing::kCompared},
+    {">=", Operator::kGreaterEqual, 2, 8, Sizing::kCompared},
+    {"==", Operator::kEqual, 2, 7, Sizing::kCompared},
+    {"!=", Operator::kNotEqual, 2, 7, Sizing::kCompared},
+    {"===", Operator::kCaseEqual, 2, 7, Sizing::kCompared},
+    {"!==", Operator::kCaseNotEqual, 2, 7, Sizing::kCompared},
+    {"==?", Operator::kWildEqual, 2, 7, Sizing::kCompared},
+    {"!=?", Operator::kWildNotEqual, 2, 7, Sizing::kCompared},
+    {"&", Operator::kAnd, 2, 6, Sizing::kAll},
+    {"^", Operator::kXor, 2, 5, Sizing::kAll},
+    {"~^", Operator::kXnor, 2, 5, Sizing::kAll},
+    {"^~", Operator::kXnor, 2, 5, Sizing::kAll},
+    {"|", Operator::kOr, 2, 4, Sizing::kAll},
+    {"&&", Operator::kLogicalAnd, 2, 3, Sizing::kNone},
+    {"||", Operator::kLogicalOr, 2, 2, Sizing::kNone},
+    {"?", Operator::kConditional, 3, kConditionalPrecedence, Sizing::kAllButFirst},
 };
 
-inline constexpr BinarySpelling kBinaryOperators[] = {
-    {"**", BinaryOperator::kPower, 12}, {"*", BinaryOperator::kMultiply, 11},
-    {"/", BinaryOperator::kDivide, 11}, {"%", BinaryOperator::kModulo, 11},
-    {"+", BinaryOperator::kAdd, 10},    {"-", BinaryOperator::kSubtract, 10},
-};
+inline constexpr int kMaxOperands = 3;
 
-/** Whether the right operand keeps its own type and has no part in the expression's (IEEE
- *  1364-2005, table 5-22 and 5.5.1). */
-constexpr bool IsRightSelfDetermined(BinaryOperator op) {
-    return op == BinaryOperator::kPower;
-}
+/** What stands between the operands and is no operator of its own. */
+inline constexpr std::string_view kPunctuation[] = {"(", ")", ":"};
 
 }  // namespace tarncalc
 

@@ -1,5 +1,6 @@
 #include "value.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 
@@ -11,8 +12,8 @@ namespace {
 
 constexpr int kWordBits = 32;
 
-constexpr int WordCount(int width) {
-    return (width - 1) / kWordBits + 1;
+constexpr std::size_t WordCount(int width) {
+    return static_cast<std::size_t>((width - 1) / kWordBits + 1);
 }
 
 void* AllocateWords(std::uint64_t byteCount) {
@@ -27,6 +28,15 @@ constexpr std::uint32_t ExtendSlice(std::uint32_t slice, int bitCount, bool isSi
 }
 
 }  // namespace
+
+Value::Value(Type type)
+    : type_(type), words_(std::make_unique<VectorWord[]>(WordCount(type.width))) {}
+
+Value Value::OfCode(LogicCode code) {
+    Value value(kBit);
+    value.words_[0] = tarn_LogicVectorLUT[code];
+    return value;
+}
 
 Value::Value(const Literal& literal, bool& isCut) : type_{0, false} {
     const std::string sizeText(literal.sizeText);
@@ -49,17 +59,24 @@ void Value::Convert(Type type) {
     type_.isSigned = type.isSigned;
     RestoreTopWord();
     if (type.width == type_.width) return;
-    auto extended = std::make_unique<VectorWord[]>(static_cast<std::size_t>(WordCount(type.width)));
+    auto extended = std::make_unique<VectorWord[]>(WordCount(type.width));
     const auto copy = type.isSigned ? tarn_SignedCopy : tarn_UnsignedCopy;
     copy(type.width, extended.get(), type_.width, words_.get());
     words_ = std::move(extended);
+    const bool isCut = type.width < type_.width;
     type_.width = type.width;
+    if (isCut) RestoreTopWord();
+}
+
+void Value::SetUnknown() noexcept {
+    std::fill_n(words_.get(), WordCount(type_.width), VectorWord{~0U, ~0U});
+    RestoreTopWord();
 }
 
 void Value::RestoreTopWord() noexcept {
     const int bitCount = type_.width % kWordBits;
     if (bitCount == 0) return;
-    VectorWord& top = words_[static_cast<std::size_t>(WordCount(type_.width) - 1)];
+    VectorWord& top = words_[WordCount(type_.width) - 1];
     top.aval = ExtendSlice(top.aval, bitCount, type_.isSigned);
     top.bval = ExtendSlice(top.bval, bitCount, type_.isSigned);
 }

@@ -14,24 +14,37 @@ struct Type {
     bool isSigned;
 };
 
+/** The type of a truth value. */
+inline constexpr Type kBit{1, false};
+
 struct Literal;
 
 /** A vector with its type. Between calls the bits of the top word above the width extend the
  *  value, as the library expects them of an operand. */
 class Value {
   public:
+    /** All zeros. */
+    explicit Value(Type type);
+
+    /** A bit from its LogicCode. */
+    static Value OfCode(LogicCode code);
+
     /** The value of a literal. `isCut` tells whether it is more than its width can hold. */
     Value(const Literal& literal, bool& isCut);
 
     const Type& GetType() const noexcept { return type_; }
+    int Width() const noexcept { return type_.width; }
     const VectorWord* Words() const noexcept { return words_.get(); }
 
     /** For an operation that writes its result here; RestoreTopWord must follow it. */
     VectorWord* Words() noexcept { return words_.get(); }
 
-    /** Makes the value an operand of the given type, which is no narrower than its own: read with
-     *  the new sign, then extended by it. */
+    /** Makes the value an operand of the given type: read with the new sign, then extended by it or
+     *  cut. */
     void Convert(Type type);
+
+    /** Makes every bit X. */
+    void SetUnknown() noexcept;
 
     /** Gives the bits above the width what the type says: zeros, or copies of the top bit. */
     void RestoreTopWord() noexcept;

@@ -1,0 +1,24 @@
+// Operators applied to values, by the library's exports.
+#ifndef TARNCALC_OPERATIONS_H
+#define TARNCALC_OPERATIONS_H
+
+#include "operators.h"
+#include "value.h"
+
+namespace tarncalc {
+
+/** The operand, which has the type that the context gave it, becomes the result. */
+void ApplyUnary(Operator op, Value& operand);
+
+/** The left operand becomes the result; the right one is used up. What shares a type (IEEE
+ *  1364-2005, 5.4 and 5.5) has it already: both operands, or the left one alone where the right one
+ *  determines its own. */
+void ApplyBinary(Operator op, Value& left, Value& right);
+
+/** condition ? left : right. The condition becomes the result; the branches, which have one type,
+ *  are used up. */
+void ApplyConditional(Value& condition, Value& left, Value& right);
+
+}  // namespace tarncalc
+
+#endif
