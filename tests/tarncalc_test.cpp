@@ -102,7 +102,8 @@ TEST(Tarncalc, PrintsWhatReadsBackExactly) {
 
 const Wrong kWrong[] = {
     {"8'hFF + ", "expected an operand", 8},
-    {"", "expected an operand", 0},
+    {"", "expected a statement", 0},
+    {" ; ; 1 + ; ", "expected an operand", 9},
     {"1 + )", "expected an operand", 4},
     {"1 2", "expected an operator", 2},
     {"(1", "expected ')'", 2},
@@ -126,7 +127,7 @@ const Wrong kWrong[] = {
     {"'01", "a fill digit stands alone", 2},
     {"1 + \"ab", "missing closing double quote", 4},
     {"\"\\1771\\4001\"", "an octal escape can't be above \\377", 6},
-    {"\"a\nb\"", "control character 0x0a in a string: write it as an escape", 2},
+    {"\"a\x01\"", "control character 0x01 in a string: write it as an escape", 2},
     {"\"\\\x7f\"", "control character 0x7f in a string: write it as an escape", 2},
 };
 
@@ -143,7 +144,18 @@ const std::string kLost = " does not fit its width and loses its upper bits\n";
 const Row kRows[] = {
     {{"1", "2 +", "3"}, "", "32'sh00000001\n32'sh00000003\n", kExpected + "  2 +\n     ^\n", 2},
     {{"-q"}, "", "", "tarncalc: unknown option -q; tarncalc --help lists the options\n", 2},
-    {{"--", "-b"}, "", "", "tarncalc: unexpected character 'b'\n  -b\n   ^\n", 2},
+    {{"-f"},
+     "",
+     "",
+     "tarncalc: -f needs the name of a file; tarncalc --help lists the options\n",
+     2},
+    {{"-f", "/no/such", "1", "-f", "/"},
+     "",
+     "32'sh00000001\n",
+     "tarncalc: can't read /no/such: No such file or directory\n"
+     "tarncalc: can't read /: Is a directory\n",
+     1},
+    {{"--", "-b"}, "", "", "tarncalc: 'b' is not declared\n  -b\n   ^\n", 2},
     // The caret stays under its place behind tabs and behind characters of several bytes.
     {{"\t1\t+"}, "", "", kExpected + "  \t1\t+\n  \t \t ^\n", 2},
     {{"\"\xE2\x82\xAC\xC3\xA9\"+"},
@@ -163,9 +175,9 @@ const Row kRows[] = {
     // Lines.
     {{"-d"}, "1 + 1\n\n \t\r\n8'd7\r\n2'd3", "32'sd2\n8'd7\n2'd3\n", "", 0},
     {{},
-     "8'h1\n\n8'h1 +\n8'h1ff\n8'h2",
+     "8'h1\n\n8'h1 )\n8'h1ff\n8'h2",
      "8'h01\n8'hff\n8'h02\n",
-     "tarncalc: line 3: expected an operand\n  8'h1 +\n        ^\n"
+     "tarncalc: line 3: unmatched ')'\n  8'h1 )\n       ^\n"
      "tarncalc: line 4: warning: 8'h1ff" +
          kLost,
      2},
@@ -234,7 +246,7 @@ TEST(Tarncalc, HelpTellsTheTruth) {
         Check(Row{arguments, "", expected + '\n', "", 0});
         ++calls;
     }
-    EXPECT_EQ(calls, 17);
+    EXPECT_EQ(calls, 19);
 }
 
 TEST(Tarncalc, ReportsOutputThatCannotBeWritten) {

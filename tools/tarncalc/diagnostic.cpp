@@ -87,6 +87,10 @@ std::string Quoted(std::string_view text) {
     return shown;
 }
 
+std::string InQuotes(std::string_view text) {
+    return std::string("'").append(Quoted(text)) + '\'';
+}
+
 std::string CharacterName(std::string_view text, std::size_t position) {
     constexpr char kDigits[] = "0123456789abcdef";
     const char c = text[position];

@@ -1,4 +1,4 @@
-// What the user is told about an expression that can't be calculated.
+// What the user is told about what can't be calculated.
 #ifndef TARNCALC_DIAGNOSTIC_H
 #define TARNCALC_DIAGNOSTIC_H
 
@@ -7,18 +7,20 @@
 #include <string>
 #include <string_view>
 
+#include "source.h"
+
 namespace tarncalc {
 
-/** An expression that is rejected, and the place in its text that the user should look at. */
-class ExpressionError : public std::runtime_error {
+/** A statement that is rejected, and the place in its text that the user should look at. */
+class InputError : public std::runtime_error {
   public:
-    ExpressionError(std::size_t position, const std::string& message)
-        : std::runtime_error(message), position_(position) {}
+    InputError(Place place, const std::string& message)
+        : std::runtime_error(message), place_(place) {}
 
-    std::size_t Position() const noexcept { return position_; }
+    Place GetPlace() const noexcept { return place_; }
 
   private:
-    std::size_t position_;
+    Place place_;
 };
 
 /** Two lines, each with its newline: the text, and a caret under the byte at `position` (which may
@@ -28,6 +30,9 @@ std::string CaretLines(std::string_view text, std::size_t position);
 
 /** A text for use inside a message: on one line, shortened where it is long. */
 std::string Quoted(std::string_view text);
+
+/** The same between single quotes. */
+std::string InQuotes(std::string_view text);
 
 /** A name for the character that begins at `position`, fit for a message. */
 std::string CharacterName(std::string_view text, std::size_t position);

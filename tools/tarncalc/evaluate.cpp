@@ -1,12 +1,14 @@
 #include "evaluate.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 #include "diagnostic.h"
 #include "operations.h"
+#include "select.h"
+#include "typing.h"
 
 namespace tarncalc {
 
@@ -37,120 +39,72 @@ bool IsPowerFeasible(const Value& base, const Value& exponent) {
     return bits.size() <= maxExponentBits || isNegative || !isKnown;
 }
 
-/** The operands that share a type, as places in their operator's row of operands. */
-struct SharedOperands {
-    std::size_t begin, end;
-};
-
-SharedOperands SharedOperandsOf(const OperatorRow& row) {
-    const auto count = static_cast<std::size_t>(row.operandCount);
-    switch (row.sizing) {
-        case Sizing::kAll:
-        case Sizing::kCompared:
-            return {0, count};
-        case Sizing::kAllButFirst:
-            return {1, count};
-        case Sizing::kAllButLast:
-            return {0, count - 1};
-        case Sizing::kNone:
-            break;
-    }
-    return {0, 0};
-}
-
-/** The rules of IEEE 1364-2005, 5.4 and 5.5: types are determined from the operands up, then the
- *  root's type goes down to every operand whose size its context determines, and the operands are
- *  extended to it before anything is calculated. */
+/** Postorder is the order of a stack machine: an operator finds its operands on top. */
 class Evaluator {
   public:
-    explicit Evaluator(const Tree& tree) : tree_(tree), types_(tree.size()) {}
+    /** Without a scope the tree is a constant. */
+    Evaluator(TreeView tree, std::span<const int> constants, Scope* scope,
+              std::vector<std::string_view>& cutLiterals)
+        : tree_(tree), constants_(constants), scope_(scope), cutLiterals_(cutLiterals) {}
 
-    Evaluation Run() {
-        DetermineTypes();
-        PassTypesDown();
-        Calculate();
-        return {std::move(stack_.back()), std::move(cutLiterals_)};
-    }
-
-  private:
-    void DetermineTypes() {
-        for (NodeIndex index = 0; index < tree_.size(); ++index) {
-            const auto determine = [&](const auto& content) { return OwnType(content, index); };
-            types_[index] = std::visit(determine, tree_[index].content);
-        }
-    }
-
-    /** A literal's type is known when its value is made. */
-    Type OwnType(const Literal& literal, NodeIndex /*index*/) {
-        bool isCut = false;
-        literals_.emplace_back(literal, isCut);
-        if (isCut) cutLiterals_.push_back(literal.spelling);
-        const Type& type = literals_.back().GetType();
-        ClaimBits(type.width, literal.position);
-        return type;
-    }
-
-    Type OwnType(const OperatorNode& node, NodeIndex index) const {
-        const Sizing sizing = node.row->sizing;
-        const bool isBit = sizing == Sizing::kCompared || sizing == Sizing::kNone;
-        return isBit ? kBit : SharedType(*node.row, index);
-    }
-
-    /** The type that the operands of an operator share, from what each of them is by itself. */
-    Type SharedType(const OperatorRow& row, NodeIndex index) const {
-        const auto operands = OperandsOf(tree_, index, row.operandCount);
-        const auto [begin, end] = SharedOperandsOf(row);
-        Type shared = types_[operands[begin]];
-        for (std::size_t place = begin + 1; place < end; ++place) {
-            const Type& type = types_[operands[place]];
-            shared = {std::max(shared.width, type.width), shared.isSigned && type.isSigned};
-        }
-        return shared;
-    }
-
-    void PassTypesDown() {
-        for (NodeIndex index = tree_.size(); index-- > 0;) {
-            const auto* const node = std::get_if<OperatorNode>(&tree_[index].content);
-            if (node == nullptr) continue;
-            const OperatorRow& row = *node->row;
-            const bool isCompared = row.sizing == Sizing::kCompared;
-            const Type shared = isCompared ? SharedType(row, index) : types_[index];
-            const auto operands = OperandsOf(tree_, index, row.operandCount);
-            const auto [begin, end] = SharedOperandsOf(row);
-            for (std::size_t place = begin; place < end; ++place) {
-                types_[operands[place]] = shared;
-            }
-        }
-    }
-
-    /** Postorder is the order of a stack machine: an operator finds its operands on top. */
-    void Calculate() {
+    Value Run(int contextWidth) {
+        const auto leafType = [this](NodeIndex index) { return LeafType(tree_[index]); };
+        const std::vector<Type> types = DetermineTypes(tree_, constants_, leafType, contextWidth);
         nextLiteral_ = literals_.begin();
         for (NodeIndex index = 0; index < tree_.size(); ++index) {
             const Node& node = tree_[index];
-            const auto execute = [&](const auto& content) { Execute(content, node.position); };
+            const auto execute = [&](const auto& content) { Execute(content, node.place); };
             std::visit(execute, node.content);
             // What has a type of its own is extended to that of its context.
-            ClaimBits(types_[index].width - stack_.back().Width(), node.position);
-            stack_.back().Convert(types_[index]);
+            ClaimBits(types[index].width - stack_.back().Width(), node.place);
+            stack_.back().Convert(types[index]);
         }
+        return std::move(stack_.back());
     }
 
-    void Execute(const Literal& /*literal*/, std::size_t /*position*/) {
+  private:
+    /** A literal's type is known when its value is made. */
+    Type LeafType(const Node& node) {
+        const auto* const literal = std::get_if<Literal>(&node.content);
+        if (literal == nullptr)
+            return SelectionOf(std::get<ReferenceNode>(node.content), node.place).type;
+        bool isCut = false;
+        literals_.emplace_back(*literal, isCut);
+        if (isCut) cutLiterals_.push_back(literal->spelling);
+        const Type type = literals_.back().GetType();
+        ClaimBits(type.width, node.place);
+        return type;
+    }
+
+    Selection SelectionOf(const ReferenceNode& node, Place place) const {
+        if (scope_ == nullptr) {
+            throw InputError(
+                place, "a constant is needed here, but " + InQuotes(node.name) + " is a variable");
+        }
+        return Select(node, place, *scope_, constants_);
+    }
+
+    void Execute(const Literal& /*literal*/, Place /*place*/) {
         stack_.push_back(std::move(*nextLiteral_++));
     }
 
+    void Execute(const ReferenceNode& node, Place place) {
+        const Selection selection = SelectionOf(node, place);
+        ClaimBits(selection.type.width, place);
+        Value value = Read(Locate(selection, Operands(node.indexCount)));
+        Drop(node.indexCount);
+        stack_.push_back(std::move(value));
+    }
+
     /** The first operand becomes the result. */
-    void Execute(const OperatorNode& node, std::size_t position) {
-        const auto operandCount = static_cast<std::size_t>(node.row->operandCount);
-        Value* const operands = &stack_[stack_.size() - operandCount];
-        for (std::size_t place = 0; place < operandCount; ++place) {
-            liveBits_ -= operands[place].Width();
-        }
+    void Execute(const OperatorNode& node, Place place) {
+        const std::size_t operandCount = node.row->operandCount;
+        const std::span<Value> operands = Operands(operandCount);
         const Operator op = node.row->op;
         if (op == Operator::kPower && !IsPowerFeasible(operands[0], operands[1])) {
-            throw ExpressionError(position, "this power would take too long to calculate");
+            throw InputError(place, "this power would take too long to calculate");
         }
+        liveBits_ -= operands[0].Width();
         if (operandCount == 1) {
             ApplyUnary(op, operands[0]);
         } else if (operandCount == 2) {
@@ -158,30 +112,82 @@ class Evaluator {
         } else {
             ApplyConditional(operands[0], operands[1], operands[2]);
         }
-        stack_.erase(stack_.end() - node.row->operandCount + 1, stack_.end());
-        liveBits_ += stack_.back().Width();
+        liveBits_ += operands[0].Width();
+        Drop(operandCount - 1);
     }
 
-    void ClaimBits(int bitCount, std::size_t position) {
+    void Execute(const ConcatenationNode& node, Place place) {
+        const std::span<Value> operands = Operands(node.operandCount);
+        int width = 0;
+        for (const Value& operand : operands) {
+            width += operand.Width();
+        }
+        ClaimBits(width, place);
+        Value value = Concatenate(operands, width);
+        Drop(node.operandCount);
+        stack_.push_back(std::move(value));
+    }
+
+    void Execute(const ReplicationNode& node, Place place) {
+        const int count = constants_[node.count];
+        ClaimBits(count * stack_.back().Width(), place);
+        Value value = Replicate(stack_.back(), count);
+        Drop(1);
+        stack_.push_back(std::move(value));
+    }
+
+    /** The values on top of the stack. */
+    std::span<Value> Operands(std::size_t count) { return std::span(stack_).last(count); }
+
+    void Drop(std::size_t count) {
+        for (const Value& value : Operands(count)) {
+            liveBits_ -= value.Width();
+        }
+        stack_.erase(stack_.end() - static_cast<std::ptrdiff_t>(count), stack_.end());
+    }
+
+    void ClaimBits(int bitCount, Place place) {
         liveBits_ += bitCount;
         if (liveBits_ > kMaxLiveBits) {
-            throw ExpressionError(position, "the expression needs too much storage");
+            throw InputError(place, "the expression needs too much storage");
         }
     }
 
-    const Tree& tree_;
-    std::vector<Type> types_;
+    TreeView tree_;
+    std::span<const int> constants_;
+    Scope* scope_;
+    std::vector<std::string_view>& cutLiterals_;
     std::vector<Value> literals_;  // in the order of the text; each moves to the stack in its turn
     std::vector<Value>::iterator nextLiteral_;
     std::vector<Value> stack_;
-    std::vector<std::string_view> cutLiterals_;
     std::int64_t liveBits_ = 0;
 };
 
+int EvaluateInteger(TreeView tree, std::span<const int> constants,
+                    std::vector<std::string_view>& cutLiterals) {
+    const Value value = Evaluator(tree, constants, nullptr, cutLiterals).Run(0);
+    const std::optional<int> integer = IntegerOf(value);
+    if (!integer) throw InputError(tree.back().place, "this must be a known number of 32 bits");
+    return *integer;
+}
+
 }  // namespace
 
-Evaluation Evaluate(const Tree& tree) {
-    return Evaluator(tree).Run();
+std::vector<int> EvaluateConstants(const Expression& expression, Context& context) {
+    std::vector<int> constants;
+    for (const Tree& tree : expression.constants) {
+        constants.push_back(EvaluateInteger(tree, constants, context.cutLiterals));
+    }
+    return constants;
+}
+
+int EvaluateConstant(const Expression& expression, Context& context) {
+    return EvaluateInteger(expression.tree, EvaluateConstants(expression, context),
+                           context.cutLiterals);
+}
+
+Value Evaluate(TreeView tree, std::span<const int> constants, Context& context, int contextWidth) {
+    return Evaluator(tree, constants, &context.scope, context.cutLiterals).Run(contextWidth);
 }
 
 }  // namespace tarncalc

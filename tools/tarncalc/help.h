@@ -7,13 +7,13 @@
 namespace tarncalc {
 
 inline constexpr std::string_view kHelp =
-    R"help(Usage: tarncalc [OPTION]... [EXPRESSION]...
+    R"help(Usage: tarncalc [OPTION]... [STATEMENT | -f FILE]...
 Calculate with Verilog values: vectors of any width, of bits 0, 1, x and z.
 
-Each EXPRESSION is an argument of its own, so quote it for the shell. Its value
-is printed on a line of its own, as a literal. Without arguments, expressions
-are read from standard input, one a line; on a terminal with line editing and
-history, until Ctrl-D.
+Each STATEMENT is an argument of its own, so quote it for the shell. The value
+of an expression is printed on a line of its own, as a literal. Without
+statements and files, statements are read from standard input; on a terminal
+with line editing and history, until Ctrl-D.
 
   tarncalc "8'hFF + 8'h01"          8'h00
   tarncalc "9'hFF + 8'h01"          9'h100
@@ -22,15 +22,39 @@ history, until Ctrl-D.
   tarncalc "4'b1x0z + 1"            32'hxxxxxxxx
   tarncalc "8'hFF & 4'b1x0z"        8'b00001x0x
 
-Options hold for all expressions; of several bases the last one counts:
+Options hold for all statements; of several bases the last one counts:
   -x           print in hexadecimal (the default)
   -d           print in decimal
   -o           print in octal
   -b           print in binary
+  -f FILE      run the statements of a file, in its turn; variables live on
   -h, --help   print this text and stop
   --version    print the version and stop
-  --           the arguments after it are expressions, whatever they look like
-An argument such as -5 or "-8'd1" is no option but an expression.
+  --           the arguments after it are statements, whatever they look like
+An argument such as -5 or "-8'd1" is no option but an expression; one such as
+-a is taken for an option, so write "(-a)".
+
+Statements end at a semicolon or at the end of a line. A line's end is a blank
+inside ( ) [ ] { }, between ? and :, and where an operand or a name must follow,
+as it must behind an operator, a comma or an equals sign; on a terminal the
+prompt is "..." then. // begins a comment up to the end of the line; /* and */
+enclose one.
+  EXPRESSION   prints its value
+  reg [7:0] a, b = 5
+               declares vectors, of any bounds: [7:0] [0:7] [-1:-8]; without
+               bounds a single bit; with signed behind reg, signed ones. An
+               initial value is assigned to each where it stands.
+  integer i    declares a signed vector of 32 bits, [31:0]
+  reg [7:0] m [0:255], integer n [1:4]
+               declare memories of 256 and 4 words
+  a = 5, a[3] = 1, m[7][3:0] = 2, {a, b[1:0]} = 3
+               assign: the right side is calculated with the bits of the left
+               one where those are more than its own, then cut to them
+Every bit of a variable is x until it is assigned. All variables together can
+have 2000000000 bits, words of memories counting as whole bytes.
+
+  tarncalc "reg [7:0] a = 9'h1f0; a"  8'hf0
+  tarncalc "reg [7:0] a = 5; a[6:4] = 3; {a, a[5:4]}"  10'h0d7
 
 Operands:
   8'hFF 12'o777 4'b1x0z 16'd500
@@ -41,9 +65,17 @@ Operands:
   '0 '1 'x 'z  one bit, unsigned; it does not fill the width of its context
   "abc"        8 bits a character, unsigned; \n \t \\ \" and octal \101 are
                single characters
+  a m[3]       a variable, a word of a memory (as signed as its declaration)
+  a[i] a[6:4] a[i +: 2] a[i -: 2] m[3][i]
+               bits of them: a single one, those between constant bounds, two
+               from i upward, two from i downward, a bit of a word: unsigned.
+               Bits outside the declared bounds are x, and all are where i has x
+               or z bits; what is assigned to such bits is lost.
+  {a, 4'd2}    the bits of all, the first on top, unsigned
+  {4{a}}       the same four times; the number is a constant
 Underscores may divide digits. x and z (or ?) are digits too, in decimal only
-alone. Spaces may stand before the quote and after the base. A width is at most
-10000000.
+alone. Spaces may stand before the quote and after the base. No value is wider
+than 10000000 bits.
 
 Operators, the tightest first; those of one line group from the left, but ?:
 from the right:
@@ -106,13 +138,17 @@ binary, whatever base was chosen:
   tarncalc "8'b0000x000"            8'b0000x000
   tarncalc -d "8'hx1"               8'bxxxx0001
 
-Errors are shown on standard error with a caret under the place; the other
-expressions are still calculated. There is a warning for each literal that
-loses upper bits because its width is too small for its digits. An expression
-that needs too much storage, or a power that would take minutes, is an error.
+Errors are shown on standard error with a caret under the place, those of a file
+with its name, line and column; the other statements are still carried out.
+Where the text of a statement is wrong, what follows it up to a semicolon or the
+end of the line is skipped. There is a warning for each literal that loses upper
+bits because its width is too small for its digits. A statement that needs too
+much storage, or a power that would take minutes, is an error, and so are more
+than 1000 brackets inside each other and more than 1000000 operators and
+operands in an expression.
 
 Exit status: 0 if all went well, 1 if reading or writing failed, 2 if an option
-or an expression was wrong.
+or a statement was wrong.
 )help";
 
 }  // namespace tarncalc

@@ -25,11 +25,11 @@ bool StartTerminal() {
     return true;
 }
 
-bool ReadTerminalLine(std::string& line) {
+bool ReadTerminalLine(std::string& line, const char* prompt) {
     struct Free {
         void operator()(char* text) const { std::free(text); }
     };
-    const std::unique_ptr<char, Free> text(readline("> "));
+    const std::unique_ptr<char, Free> text(readline(prompt));
     if (text == nullptr) {
         // What follows, the shell's prompt as a rule, begins on a line of its own.
         std::fputc('\n', rl_outstream);
@@ -42,9 +42,10 @@ bool ReadTerminalLine(std::string& line) {
 
 }  // namespace
 
-bool ReadLine(std::string& line) {
+bool ReadLine(std::string& line, bool continuesStatement) {
     static const bool isTerminal = StartTerminal();
-    return isTerminal ? ReadTerminalLine(line) : static_cast<bool>(std::getline(std::cin, line));
+    if (isTerminal) return ReadTerminalLine(line, continuesStatement ? "... " : "> ");
+    return static_cast<bool>(std::getline(std::cin, line));
 }
 
 }  // namespace tarncalc

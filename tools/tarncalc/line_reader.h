@@ -6,9 +6,9 @@
 
 namespace tarncalc {
 
-/** Reads the next line, without its newline; false at the end of the input. On a terminal, with a
- *  prompt, line editing and history. */
-bool ReadLine(std::string& line);
+/** Reads the next line, without its newline; false at the end of the input. On a terminal, with
+ *  line editing, history and a prompt, which tells whether the line continues a statement. */
+bool ReadLine(std::string& line, bool continuesStatement);
 
 }  // namespace tarncalc
 

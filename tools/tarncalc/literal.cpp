@@ -54,12 +54,12 @@ std::uint64_t CheckDigits(std::string_view text, std::size_t begin, std::size_t 
         if (text[at] == '_') continue;
         const int value = DigitValue(text[at]);
         if (value >= radix.base) {
-            throw ExpressionError(
-                at, CharacterName(text, at) + " is no " + std::string(radix.name) + " digit");
+            throw InputError(text.data() + at, CharacterName(text, at) + " is no " +
+                                                   std::string(radix.name) + " digit");
         }
         const bool isUnknown = value == kUnknownDigit;
         if (&radix == &kDecimal && hasDigit && (isUnknown || hasUnknown)) {
-            throw ExpressionError(at, "a decimal x, z or ? must be the only digit");
+            throw InputError(text.data() + at, "a decimal x, z or ? must be the only digit");
         }
         hasDigit = true;
         hasUnknown = isUnknown;
@@ -70,7 +70,8 @@ std::uint64_t CheckDigits(std::string_view text, std::size_t begin, std::size_t 
                 isUnknown ? 1 : static_cast<std::uint64_t>(std::bit_width(unsigned(value)));
         }
     }
-    if (!hasDigit) throw ExpressionError(begin, "expected " + std::string(radix.name) + " digits");
+    if (!hasDigit)
+        throw InputError(text.data() + begin, "expected " + std::string(radix.name) + " digits");
     return significantBits;
 }
 
@@ -81,23 +82,24 @@ void CheckSize(const Literal& literal) {
         if (c == '_') continue;
         size = 10 * size + static_cast<std::uint64_t>(c - '0');
         if (size > TARN_MAX_LITERAL_WIDTH) {
-            throw ExpressionError(literal.position, "a literal can't be wider than " +
-                                                        std::to_string(TARN_MAX_LITERAL_WIDTH) +
-                                                        " bits");
+            throw InputError(literal.GetPlace(), "a literal can't be wider than " +
+                                                     std::to_string(TARN_MAX_LITERAL_WIDTH) +
+                                                     " bits");
         }
     }
-    if (size == 0) throw ExpressionError(literal.position, "the size of a literal can't be 0");
+    if (size == 0) throw InputError(literal.GetPlace(), "the size of a literal can't be 0");
 }
 
 void SetSpelling(Literal& literal, std::string_view text, std::size_t end) {
-    literal.spelling = text.substr(literal.position, end - literal.position);
+    const auto begin = static_cast<std::size_t>(literal.GetPlace() - text.data());
+    literal.spelling = text.substr(begin, end - begin);
 }
 
 /** The one digit of '0 '1 'x 'z, at `position`. */
 Literal ScanFillDigit(std::string_view text, std::size_t position, Literal literal) {
     const std::size_t end = position + 1;
     if (end < text.size() && IsNumberCharacter(text[end])) {
-        throw ExpressionError(end, "a fill digit stands alone");
+        throw InputError(text.data() + end, "a fill digit stands alone");
     }
     literal.prefix = text.substr(position - 1, 1);
     literal.digits = text.substr(position, 1);
@@ -116,7 +118,7 @@ Literal ScanBased(std::string_view text, std::size_t quote, Literal literal) {
     if (first == 's') ++at;
     literal.radix = at < text.size() ? RadixOfLetter(text[at]) : nullptr;
     if (literal.radix == nullptr) {
-        throw ExpressionError(at, "expected a base letter: b, o, d or h");
+        throw InputError(text.data() + at, "expected a base letter: b, o, d or h");
     }
     ++at;
     literal.prefix = text.substr(quote, at - quote);
@@ -133,7 +135,7 @@ Literal ScanBased(std::string_view text, std::size_t quote, Literal literal) {
 
 Literal ScanNumber(std::string_view text, std::size_t position) {
     Literal literal;
-    literal.position = position;
+    literal.spelling = text.substr(position);
     const auto isSizeCharacter = [](char c) { return IsDigit(c) || c == '_'; };
     const std::size_t end = SkipWhile(text, position, isSizeCharacter);
     const std::size_t next = SkipWhile(text, end, IsSpace);
@@ -145,7 +147,7 @@ Literal ScanNumber(std::string_view text, std::size_t position) {
     }
     literal.radix = &kDecimal;
     if (end < text.size() && IsNumberCharacter(text[end])) {
-        throw ExpressionError(end, CharacterName(text, end) + " is no decimal digit");
+        throw InputError(text.data() + end, CharacterName(text, end) + " is no decimal digit");
     }
     SetSpelling(literal, text, end);
     return literal;
@@ -158,7 +160,7 @@ std::size_t SkipEscape(std::string_view text, std::size_t position) {
     const std::size_t last =
         SkipWhile(text.substr(0, std::min(first + 3, text.size())), first, isOctal);
     if (last - first == 3 && text[first] > '3') {
-        throw ExpressionError(position, "an octal escape can't be above \\377");
+        throw InputError(text.data() + position, "an octal escape can't be above \\377");
     }
     return std::max(last, std::min(first + 1, text.size()));
 }
@@ -169,14 +171,14 @@ Literal ScanString(std::string_view text, std::size_t position) {
     while (at < text.size() && text[at] != '"') {
         const std::size_t shown = text[at] == '\\' && at + 1 < text.size() ? at + 1 : at;
         if (IsControl(text[shown]) && text[shown] != '\t') {
-            throw ExpressionError(
-                shown, CharacterName(text, shown) + " in a string: write it as an escape");
+            throw InputError(text.data() + shown,
+                             CharacterName(text, shown) + " in a string: write it as an escape");
         }
         at = text[at] == '\\' ? SkipEscape(text, at) : at + 1;
     }
-    if (at == text.size()) throw ExpressionError(position, "missing closing double quote");
+    if (at == text.size()) throw InputError(text.data() + position, "missing closing double quote");
     Literal literal;
-    literal.position = position;
+    literal.spelling = text.substr(position);
     SetSpelling(literal, text, at + 1);
     literal.digits = literal.spelling;
     return literal;

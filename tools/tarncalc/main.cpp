@@ -1,7 +1,7 @@
-// tarncalc: a calculator for four-state Verilog expressions.
+// tarncalc: a calculator for four-state Verilog.
 #include <algorithm>
 #include <iostream>
-#include <new>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,12 +10,9 @@
 
 #include "characters.h"
 #include "diagnostic.h"
-#include "evaluate.h"
-#include "format.h"
 #include "help.h"
-#include "line_reader.h"
-#include "parser.h"
 #include "radix.h"
+#include "session.h"
 
 namespace {
 
@@ -25,15 +22,21 @@ constexpr int kStatusOk = 0;
 constexpr int kStatusInputOutput = 1;
 constexpr int kStatusWrongInput = 2;
 
+/** A text to run, or the name of a file of text. */
+struct Input {
+    bool isFile;
+    std::string_view text;
+};
+
 struct Options {
     const Radix* radix = &kHexadecimal;
     bool wantsHelp = false;
     bool wantsVersion = false;
-    std::string_view unknown;  // the first option that doesn't exist
-    std::vector<std::string_view> expressions;
+    std::string problem;  // the first one
+    std::vector<Input> inputs;
 };
 
-/** A minus or two with a word behind: -q, --colour=no. An expression can't begin like that. */
+/** A minus or two with a word behind: -q, --colour=no. A statement can't begin like that. */
 bool LooksLikeOption(std::string_view argument) {
     const std::size_t word = argument.find_first_not_of('-');
     return (word == 1 || word == 2) && IsLetter(argument[word]) &&
@@ -60,7 +63,7 @@ bool ReadOption(std::string_view argument, Options& options) {
     } else if (argument == "--version") {
         options.wantsVersion = true;
     } else if (LooksLikeOption(argument)) {
-        if (options.unknown.empty()) options.unknown = argument;
+        if (options.problem.empty()) options.problem = "unknown option " + Quoted(argument);
     } else {
         return false;
     }
@@ -70,61 +73,45 @@ bool ReadOption(std::string_view argument, Options& options) {
 Options ReadArguments(const std::vector<std::string_view>& arguments) {
     Options options;
     bool optionsEnded = false;
-    for (const std::string_view argument : arguments) {
-        if (!optionsEnded && argument == "--") {
+    for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
+        if (!optionsEnded && *argument == "--") {
             optionsEnded = true;
-        } else if (optionsEnded || !ReadOption(argument, options)) {
-            options.expressions.push_back(argument);
+        } else if (!optionsEnded && *argument == "-f") {
+            if (std::next(argument) == arguments.end()) {
+                options.problem = "-f needs the name of a file";
+            } else {
+                options.inputs.push_back({true, *++argument});
+            }
+        } else if (optionsEnded || !ReadOption(*argument, options)) {
+            options.inputs.push_back({false, *argument});
         }
     }
     return options;
 }
 
-/** What stands before a message; `line` is the number of the input's line, 0 for an argument. */
-std::string MessagePrefix(std::size_t line) {
-    return line == 0 ? "tarncalc: " : "tarncalc: line " + std::to_string(line) + ": ";
+/** Runs everything and returns the worst outcome. */
+Outcome RunInputs(const Options& options) {
+    Session session(*options.radix);
+    if (options.inputs.empty()) return session.RunStandardInput();
+    Outcome worst = Outcome::kOk;
+    for (const Input& input : options.inputs) {
+        const Outcome outcome = input.isFile ? session.RunFile(std::string(input.text))
+                                             : session.RunArgument(input.text);
+        worst = std::max(worst, outcome);
+    }
+    return worst;
 }
 
-/** Prints the value of one expression, or what is wrong with it; false in the latter case. */
-bool Run(std::string_view text, const Radix& radix, std::size_t line) {
-    const std::string prefix = MessagePrefix(line);
-    try {
-        const Evaluation evaluation = Evaluate(Parse(text));
-        const std::string result = FormatValue(evaluation.value, radix);
-        for (const std::string_view literal : evaluation.cutLiterals) {
-            std::cerr << prefix << "warning: " << Quoted(literal)
-                      << " does not fit its width and loses its upper bits\n";
-        }
-        std::cout << result << '\n';
-        return true;
-    } catch (const ExpressionError& error) {
-        std::cerr << prefix << error.what() << '\n' << CaretLines(text, error.Position());
-    } catch (const std::bad_alloc&) {
-        std::cerr << prefix << "not enough memory for the expression\n";
+int StatusOf(Outcome outcome) {
+    switch (outcome) {
+        case Outcome::kOk:
+            return kStatusOk;
+        case Outcome::kInputOutputError:
+            return kStatusInputOutput;
+        case Outcome::kWrongInput:
+            break;
     }
-    return false;
-}
-
-int RunInput(const Radix& radix) {
-    int status = kStatusOk;
-    std::string line;
-    for (std::size_t number = 1; ReadLine(line); ++number) {
-        const bool isBlank = std::all_of(line.begin(), line.end(), IsSpace);
-        if (!isBlank && !Run(line, radix, number)) status = kStatusWrongInput;
-        std::cout.flush();
-    }
-    if (!std::cin.bad()) return status;
-    std::cerr << "tarncalc: can't read the standard input\n";
-    return kStatusInputOutput;
-}
-
-int RunExpressions(const Options& options) {
-    if (options.expressions.empty()) return RunInput(*options.radix);
-    int status = kStatusOk;
-    for (const std::string_view expression : options.expressions) {
-        if (!Run(expression, *options.radix, 0)) status = kStatusWrongInput;
-    }
-    return status;
+    return kStatusWrongInput;
 }
 
 }  // namespace
@@ -133,16 +120,15 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     const Options options = ReadArguments({argv + std::min(argc, 1), argv + argc});
     int status = kStatusOk;
-    if (!options.unknown.empty()) {
-        std::cerr << "tarncalc: unknown option " << Quoted(options.unknown)
-                  << "; tarncalc --help lists the options\n";
+    if (!options.problem.empty()) {
+        std::cerr << "tarncalc: " << options.problem << "; tarncalc --help lists the options\n";
         status = kStatusWrongInput;
     } else if (options.wantsHelp) {
         std::cout << kHelp;
     } else if (options.wantsVersion) {
         std::cout << "tarncalc " TARNLIB_VERSION_STRING "\n";
     } else {
-        status = RunExpressions(options);
+        status = StatusOf(RunInputs(options));
     }
     if (!std::cout.flush()) {
         std::cerr << "tarncalc: can't write the results\n";

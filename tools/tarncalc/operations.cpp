@@ -143,6 +143,21 @@ void Combine(Operator op, Value& left, const Value& right) {
           other);
 }
 
+/** Puts an operand into a vector that is put together from its low end, and moves behind it. */
+void Put(Value& operand, Value& result, int& position) {
+    const int width = operand.Width();
+    if (width == 0) return;
+    operand.Convert({width, false});
+    const auto offset = static_cast<unsigned>(position % kWordBits);
+    VectorWord* const word = result.Words() + position / kWordBits;
+    if (offset == 0) {
+        tarn_ConcatenateShifted(width, word, operand.Words());
+    } else {
+        tarn_Concatenate(static_cast<int>(offset) + width, word, width, operand.Words(), offset);
+    }
+    position += width;
+}
+
 }  // namespace
 
 void ApplyUnary(Operator op, Value& operand) {
@@ -189,6 +204,24 @@ void ApplyConditional(Value& condition, Value& left, Value& right) {
         Write(isSigned ? tarn_SignedConditionalMix : tarn_UnsignedConditionalMix, left, right);
     }
     condition = std::move(truth == TARN_LOGIC_0 ? right : left);
+}
+
+Value Concatenate(std::span<Value> operands, int width) {
+    Value result(Type{width, false});
+    int position = 0;
+    for (std::size_t place = operands.size(); place-- > 0;) {
+        Put(operands[place], result, position);
+    }
+    return result;
+}
+
+Value Replicate(Value& operand, int count) {
+    Value result(Type{operand.Width() * count, false});
+    int position = 0;
+    for (int copy = 0; copy < count; ++copy) {
+        Put(operand, result, position);
+    }
+    return result;
 }
 
 }  // namespace tarncalc

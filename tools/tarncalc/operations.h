@@ -2,6 +2,8 @@
 #ifndef TARNCALC_OPERATIONS_H
 #define TARNCALC_OPERATIONS_H
 
+#include <span>
+
 #include "operators.h"
 #include "value.h"
 
@@ -18,6 +20,13 @@ void ApplyBinary(Operator op, Value& left, Value& right);
 /** condition ? left : right. The condition becomes the result; the branches, which have one type,
  *  are used up. */
 void ApplyConditional(Value& condition, Value& left, Value& right);
+
+/** The operands behind each other, the first on top, as one vector of their width together. They
+ *  are used up. */
+Value Concatenate(std::span<Value> operands, int width);
+
+/** The operand `count` times behind itself. It is used up. */
+Value Replicate(Value& operand, int count);
 
 }  // namespace tarncalc
 

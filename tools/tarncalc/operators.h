@@ -59,7 +59,7 @@ enum class Sizing {
 struct OperatorRow {
     std::string_view spelling;
     Operator op;
-    int operandCount;
+    std::size_t operandCount;
     int precedence;
     Sizing sizing;
 };
@@ -111,10 +111,11 @@ inline constexpr OperatorRow kOperators[] = {
     {"?", Operator::kConditional, 3, kConditionalPrecedence, Sizing::kAllButFirst},
 };
 
-inline constexpr int kMaxOperands = 3;
+inline constexpr std::size_t kMaxOperands = 3;
 
 /** What stands between the operands and is no operator of its own. */
-inline constexpr std::string_view kPunctuation[] = {"(", ")", ":"};
+inline constexpr std::string_view kPunctuation[] = {"(", ")",  "[",  "]", "{", "}",
+                                                    ":", "+:", "-:", ",", ";", "="};
 
 }  // namespace tarncalc
 

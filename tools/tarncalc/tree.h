@@ -4,25 +4,59 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
+#include <string_view>
 #include <variant>
 #include <vector>
 
 #include "literal.h"
 #include "operators.h"
+#include "source.h"
 
 namespace tarncalc {
 
 /** The place of a node in its tree. */
 using NodeIndex = std::size_t;
 
+/** The place of a constant among those of its expression. */
+using ConstantIndex = std::size_t;
+
 struct OperatorNode {
     const OperatorRow* row;
 };
 
+/** What the last brackets behind a name select. */
+enum class Part {
+    kNone,    // the bit or memory word of an index, or there are no brackets
+    kBounds,  // [constant:constant]
+    kUp,      // [index +: constant]
+    kDown,    // [index -: constant]
+};
+
+/** A variable or a part of one. Its operands are the indices of its brackets that needn't be
+ *  constant. */
+struct ReferenceNode {
+    std::string_view name;
+    std::size_t indexCount = 0;
+    Part part = Part::kNone;
+    ConstantIndex left = 0;   // for kBounds
+    ConstantIndex right = 0;  // for kBounds; for kUp and kDown the width
+};
+
+/** {a, b, c} */
+struct ConcatenationNode {
+    std::size_t operandCount;
+};
+
+/** {count{a, b, c}}; its operand is the concatenation. */
+struct ReplicationNode {
+    ConstantIndex count;
+};
+
 struct Node {
-    std::size_t position;   // of the operator or of the literal, in the expression's text
+    Place place;            // of the operator or of the operand
     std::size_t nodeCount;  // of the subtree: this node and everything below it
-    std::variant<Literal, OperatorNode> content;
+    std::variant<Literal, OperatorNode, ReferenceNode, ConcatenationNode, ReplicationNode> content;
 };
 
 /** The nodes in postorder: operands stand before their operators, left before right, the root is
@@ -30,16 +64,30 @@ struct Node {
  *  as deep as it is long) is not bounded by the call stack. The nodes of a subtree are neighbours
  *  and mean the same wherever they stand. */
 using Tree = std::vector<Node>;
+using TreeView = std::span<const Node>;
 
-/** The operands of an operator, in the order of the text; places beyond their count are unused. */
-inline std::array<NodeIndex, kMaxOperands> OperandsOf(const Tree& tree, NodeIndex index,
-                                                      int operandCount) {
-    std::array<NodeIndex, kMaxOperands> operands{};
+/** A tree and the constants that it needs, each after those that it needs itself. */
+struct Expression {
+    Tree tree;
+    std::vector<Tree> constants;
+};
+
+/** Calls visit(operand) for each operand of a node, from the last to the first. */
+template <typename Visitor>
+void ForEachOperand(TreeView tree, NodeIndex index, std::size_t operandCount, Visitor visit) {
     NodeIndex operand = index - 1;
-    for (auto place = static_cast<std::size_t>(operandCount); place-- > 0;) {
-        operands[place] = operand;
+    for (std::size_t place = operandCount; place-- > 0;) {
+        visit(operand);
         operand -= tree[operand].nodeCount;
     }
+}
+
+/** The operands of an operator, in the order of the text; places beyond their count are unused. */
+inline std::array<NodeIndex, kMaxOperands> OperandsOf(TreeView tree, NodeIndex index,
+                                                      std::size_t operandCount) {
+    std::array<NodeIndex, kMaxOperands> operands{};
+    auto* place = operands.begin() + operandCount;
+    ForEachOperand(tree, index, operandCount, [&](NodeIndex operand) { *--place = operand; });
     return operands;
 }
 

@@ -4,13 +4,12 @@
 #include <cstdint>
 #include <string>
 
+#include "diagnostic.h"
 #include "literal.h"
 
 namespace tarncalc {
 
 namespace {
-
-constexpr int kWordBits = 32;
 
 constexpr std::size_t WordCount(int width) {
     return static_cast<std::size_t>((width - 1) / kWordBits + 1);
@@ -28,6 +27,12 @@ constexpr std::uint32_t ExtendSlice(std::uint32_t slice, int bitCount, bool isSi
 }
 
 }  // namespace
+
+void CheckWidth(std::int64_t width, Place place) {
+    constexpr int kMaxWidth = TARN_MAX_LITERAL_WIDTH;
+    if (width <= kMaxWidth) return;
+    throw InputError(place, "wider than " + std::to_string(kMaxWidth) + " bits");
+}
 
 Value::Value(Type type)
     : type_(type), words_(std::make_unique<VectorWord[]>(WordCount(type.width))) {}

@@ -2,11 +2,19 @@
 #ifndef TARNCALC_VALUE_H
 #define TARNCALC_VALUE_H
 
+#include <cstdint>
 #include <memory>
 
 #include <tarnlib.h>
 
+#include "source.h"
+
 namespace tarncalc {
+
+inline constexpr int kWordBits = 32;
+
+/** Throws InputError where a vector would be wider than any that is calculated with. */
+void CheckWidth(std::int64_t width, Place place);
 
 /** A width and a reading of a vector. */
 struct Type {
