@@ -246,7 +246,7 @@ TEST(Tarncalc, HelpTellsTheTruth) {
         Check(Row{arguments, "", expected + '\n', "", 0});
         ++calls;
     }
-    EXPECT_EQ(calls, 19);
+    EXPECT_EQ(calls, 20);
 }
 
 TEST(Tarncalc, ReportsOutputThatCannotBeWritten) {

@@ -13,11 +13,13 @@ Field FieldOf(const ReferenceNode& node, TreeView subtree, std::span<const int> 
               Context& context) {
     const NodeIndex root = subtree.size() - 1;
     const Selection selection = Select(node, subtree[root].place, context.scope, constants);
+    const auto operands = OperandsOf(subtree, root);
     std::vector<Value> indices;
-    for (const NodeIndex index : OperandsOf(subtree, root, node.indexCount)) {
-        if (indices.size() == node.indexCount) break;
-        const std::size_t count = subtree[index].nodeCount;
-        indices.push_back(Evaluate(subtree.subspan(index + 1 - count, count), constants, context));
+    for (std::size_t place = 0; place < node.indexCount; ++place) {
+        const Node& index = subtree[operands[place]];
+        const NodeIndex first = operands[place] + 1 - index.nodeCount;
+        indices.push_back(Evaluate(subtree.subspan(first, index.nodeCount), constants, context));
+        if (indices.back().IsReal()) throw InputError(index.place, "an index can't be a real");
     }
     return Locate(selection, indices);
 }
@@ -43,6 +45,9 @@ std::vector<Field> FieldsOf(const Expression& target, Context& context) {
             FieldOf(*reference, tree.subspan(end, node.nodeCount), constants, context));
         width += fields.back().type.width;
         CheckWidth(width, tree.back().place);
+        if (fields.back().type.isReal && tree.size() > 1) {
+            throw InputError(node.place, "a real can't be concatenated");
+        }
     }
     return fields;
 }
@@ -52,9 +57,10 @@ void Assign(const std::vector<Field>& fields, const Expression& expression, Cont
     for (const Field& field : fields) {
         width += field.type.width;
     }
-    Value value = Evaluate(expression, context, width);
-    value.Convert({width, value.GetType().isSigned});
+    const bool isReal = fields.front().type.isReal;
+    Value value = Evaluate(expression, context, isReal ? 0 : width);
     if (fields.size() == 1) return Write(fields.front(), std::move(value));
+    value.Convert({width, false});
     int position = 0;
     for (const Field& field : fields) {
         Value piece(Type{field.type.width, false});

@@ -29,6 +29,7 @@ static_assert(TARN_MAX_LITERAL_WIDTH <= 10'000'000);
 /** Whether base ** exponent, as wide as the base, is calculated in bearable time. Even bases,
  *  unknown exponents and those below zero make no work: their powers are found at once. */
 bool IsPowerFeasible(const Value& base, const Value& exponent) {
+    if (base.IsReal() || exponent.IsReal()) return true;
     const std::size_t maxExponentBits = kMaxPowerWork / static_cast<std::size_t>(base.Width());
     const auto exponentWidth = static_cast<std::size_t>(exponent.Width());
     const bool isOdd = (base.Words()->aval & 1U) != 0;
@@ -52,12 +53,7 @@ class Evaluator {
         const std::vector<Type> types = DetermineTypes(tree_, constants_, leafType, contextWidth);
         nextLiteral_ = literals_.begin();
         for (NodeIndex index = 0; index < tree_.size(); ++index) {
-            const Node& node = tree_[index];
-            const auto execute = [&](const auto& content) { Execute(content, node.place); };
-            std::visit(execute, node.content);
-            // What has a type of its own is extended to that of its context.
-            ClaimBits(types[index].width - stack_.back().Width(), node.place);
-            stack_.back().Convert(types[index]);
+            Calculate(tree_[index], types[index]);
         }
         return std::move(stack_.back());
     }
@@ -66,8 +62,9 @@ class Evaluator {
     /** A literal's type is known when its value is made. */
     Type LeafType(const Node& node) {
         const auto* const literal = std::get_if<Literal>(&node.content);
-        if (literal == nullptr)
+        if (literal == nullptr) {
             return SelectionOf(std::get<ReferenceNode>(node.content), node.place).type;
+        }
         bool isCut = false;
         literals_.emplace_back(*literal, isCut);
         if (isCut) cutLiterals_.push_back(literal->spelling);
@@ -84,66 +81,58 @@ class Evaluator {
         return Select(node, place, *scope_, constants_);
     }
 
-    void Execute(const Literal& /*literal*/, Place /*place*/) {
-        stack_.push_back(std::move(*nextLiteral_++));
-    }
-
-    void Execute(const ReferenceNode& node, Place place) {
-        const Selection selection = SelectionOf(node, place);
-        ClaimBits(selection.type.width, place);
-        Value value = Read(Locate(selection, Operands(node.indexCount)));
-        Drop(node.indexCount);
+    /** Replaces a node's operands on the stack by its value. */
+    void Calculate(const Node& node, Type type) {
+        ClaimBits(type.width, node.place);
+        const std::span<Value> operands = std::span(stack_).last(OperandCountOf(node));
+        for (const Value& operand : operands) {
+            liveBits_ -= operand.Width();
+        }
+        const auto valueOf = [&](const auto& content) {
+            return ValueOf(content, operands, node.place);
+        };
+        Value value = std::visit(valueOf, node.content);
+        // What has a type of its own is extended to that of its context.
+        value.Convert(type);
+        stack_.erase(stack_.end() - std::ssize(operands), stack_.end());
         stack_.push_back(std::move(value));
     }
 
-    /** The first operand becomes the result. */
-    void Execute(const OperatorNode& node, Place place) {
-        const std::size_t operandCount = node.row->operandCount;
-        const std::span<Value> operands = Operands(operandCount);
+    Value ValueOf(const Literal& /*literal*/, std::span<Value> /*operands*/, Place /*place*/) {
+        liveBits_ -= nextLiteral_->Width();
+        return std::move(*nextLiteral_++);
+    }
+
+    Value ValueOf(const ReferenceNode& node, std::span<Value> indices, Place place) const {
+        return Read(Locate(SelectionOf(node, place), indices));
+    }
+
+    Value ValueOf(const OperatorNode& node, std::span<Value> operands, Place place) const {
         const Operator op = node.row->op;
         if (op == Operator::kPower && !IsPowerFeasible(operands[0], operands[1])) {
             throw InputError(place, "this power would take too long to calculate");
         }
-        liveBits_ -= operands[0].Width();
-        if (operandCount == 1) {
+        if (operands.size() == 1) {
             ApplyUnary(op, operands[0]);
-        } else if (operandCount == 2) {
+        } else if (operands.size() == 2) {
             ApplyBinary(op, operands[0], operands[1]);
         } else {
             ApplyConditional(operands[0], operands[1], operands[2]);
         }
-        liveBits_ += operands[0].Width();
-        Drop(operandCount - 1);
+        return std::move(operands[0]);
     }
 
-    void Execute(const ConcatenationNode& node, Place place) {
-        const std::span<Value> operands = Operands(node.operandCount);
-        int width = 0;
-        for (const Value& operand : operands) {
-            width += operand.Width();
-        }
-        ClaimBits(width, place);
-        Value value = Concatenate(operands, width);
-        Drop(node.operandCount);
-        stack_.push_back(std::move(value));
+    Value ValueOf(const ConcatenationNode& /*node*/, std::span<Value> operands,
+                  Place /*place*/) const {
+        return Concatenate(operands);
     }
 
-    void Execute(const ReplicationNode& node, Place place) {
-        const int count = constants_[node.count];
-        ClaimBits(count * stack_.back().Width(), place);
-        Value value = Replicate(stack_.back(), count);
-        Drop(1);
-        stack_.push_back(std::move(value));
+    Value ValueOf(const ReplicationNode& node, std::span<Value> operands, Place /*place*/) const {
+        return Replicate(operands.front(), constants_[node.count]);
     }
 
-    /** The values on top of the stack. */
-    std::span<Value> Operands(std::size_t count) { return std::span(stack_).last(count); }
-
-    void Drop(std::size_t count) {
-        for (const Value& value : Operands(count)) {
-            liveBits_ -= value.Width();
-        }
-        stack_.erase(stack_.end() - static_cast<std::ptrdiff_t>(count), stack_.end());
+    Value ValueOf(const CallNode& node, std::span<Value> arguments, Place /*place*/) const {
+        return node.row->call(*node.row, arguments);
     }
 
     void ClaimBits(int bitCount, Place place) {

@@ -85,6 +85,8 @@ class ExpressionParser {
             tokens_.Advance();
         } else if (token.kind == Token::Kind::kName) {
             ParseReference();
+        } else if (token.kind == Token::Kind::kSystemName) {
+            ParseCall();
         } else if (token.Is("(")) {
             tokens_.Open();
             Parse();
@@ -142,13 +144,38 @@ class ExpressionParser {
             Append(place, first, ReplicationNode{count});
             return;
         }
-        std::size_t operandCount = 1;
-        while (tokens_.Skip(",")) {
-            Parse();
-            ++operandCount;
-        }
+        const std::size_t operandCount = 1 + (tokens_.Skip(",") ? ParseList() : 0);
         tokens_.Close("}", "',' or ");
         Append(place, first, ConcatenationNode{operandCount});
+    }
+
+    void ParseCall() {
+        const Place place = Here();
+        const NodeIndex first = tree_.size();
+        const std::string name = InQuotes(tokens_.Current().text);
+        const FunctionRow* const row = FindFunction(tokens_.Current().text);
+        if (row == nullptr) throw InputError(place, name + " is no function");
+        tokens_.Advance();
+        if (!tokens_.Current().Is("(")) throw InputError(Here(), "expected '('");
+        tokens_.Open();
+        const std::size_t argumentCount = ParseList();
+        tokens_.Close(")", "',' or ");
+        if (argumentCount != row->argumentCount) {
+            const bool takesOne = row->argumentCount == 1;
+            throw InputError(place, name + " takes " + std::to_string(row->argumentCount) +
+                                        (takesOne ? " argument" : " arguments"));
+        }
+        Append(place, first, CallNode{row});
+    }
+
+    /** Expressions between commas; returns how many. */
+    std::size_t ParseList() {
+        std::size_t count = 0;
+        do {
+            Parse();
+            ++count;
+        } while (tokens_.Skip(","));
+        return count;
     }
 
     ConstantIndex ParseConstant() {

@@ -10,7 +10,7 @@ namespace {
  *  of one below zero. 'X' and 'Z' stand for a digit (in decimal: a value) only some of whose bits
  *  are unknown. */
 std::string DigitsOf(const Value& value, const Radix& radix) {
-    const auto [width, isSigned] = value.GetType();
+    const int width = value.Width();
     const VectorWord* const words = value.Words();
     constexpr int kAllDigits = -1;
     constexpr int kNeededDigits = 0;
@@ -22,8 +22,9 @@ std::string DigitsOf(const Value& value, const Radix& radix) {
         case kHexadecimal.letter:
             return tarn_ConvertToHex(width, words, kAllDigits);
         default:
-            return isSigned ? tarn_SignedConvertToDec(width, words, kNeededDigits, 0)
-                            : tarn_UnsignedConvertToDec(width, words, kNeededDigits, 0);
+            return value.GetType().isSigned
+                       ? tarn_SignedConvertToDec(width, words, kNeededDigits, 0)
+                       : tarn_UnsignedConvertToDec(width, words, kNeededDigits, 0);
     }
 }
 
@@ -38,9 +39,23 @@ std::string Assemble(const Value& value, const Radix& radix, std::string_view di
     return text;
 }
 
+/** The shortest decimal form that reads back as the same real, with a point or an exponent. */
+std::string FormatReal(double value) {
+    std::string text;
+    for (const char* const format : {"%.15g", "%.16g", "%.17g"}) {
+        text = tarn_ConvertToStringR(format, value);
+        double back = 0;
+        tarn_CreateReal(text.c_str(), &back);
+        if (back == value) break;
+    }
+    const bool isInteger = text.find_first_not_of("-0123456789") == std::string::npos;
+    return isInteger ? text + ".0" : text;
+}
+
 }  // namespace
 
 std::string FormatValue(const Value& value, const Radix& radix) {
+    if (value.IsReal()) return FormatReal(value.Real());
     const std::string digits = DigitsOf(value, radix);
     const bool isExact = digits.find_first_of("XZ") == std::string::npos;
     if (isExact) return Assemble(value, radix, digits);

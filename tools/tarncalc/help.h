@@ -8,7 +8,8 @@ namespace tarncalc {
 
 inline constexpr std::string_view kHelp =
     R"help(Usage: tarncalc [OPTION]... [STATEMENT | -f FILE]...
-Calculate with Verilog values: vectors of any width, of bits 0, 1, x and z.
+Calculate with Verilog values: vectors of any width, of bits 0, 1, x and z, and
+reals.
 
 Each STATEMENT is an argument of its own, so quote it for the shell. The value
 of an expression is printed on a line of its own, as a literal. Without
@@ -45,12 +46,16 @@ enclose one.
                bounds a single bit; with signed behind reg, signed ones. An
                initial value is assigned to each where it stands.
   integer i    declares a signed vector of 32 bits, [31:0]
+  real r = 1.5 declares a real
   reg [7:0] m [0:255], integer n [1:4]
                declare memories of 256 and 4 words
   a = 5, a[3] = 1, m[7][3:0] = 2, {a, b[1:0]} = 3
                assign: the right side is calculated with the bits of the left
-               one where those are more than its own, then cut to them
-Every bit of a variable is x until it is assigned. All variables together can
+               one where those are more than its own, then cut to them; a real
+               is rounded, halves away from zero
+  $display("%d and %h", a, b), $write(a, " ", b)
+               write text, with and without a new line; see below
+Every bit of a variable is x until it is assigned, a real is 0. All variables together can
 have 2000000000 bits, words of memories counting as whole bytes.
 
   tarncalc "reg [7:0] a = 9'h1f0; a"  8'hf0
@@ -63,6 +68,7 @@ Operands:
   500          a plain decimal number: 32 bits, signed
   'hFF 'sd500  without a width: 32 bits, or more where h, o or b digits need it
   '0 '1 'x 'z  one bit, unsigned; it does not fill the width of its context
+  1.5 2.5e-3   a real, with digits on both sides of the point
   "abc"        8 bits a character, unsigned; \n \t \\ \" and octal \101 are
                single characters
   a m[3]       a variable, a word of a memory (as signed as its declaration)
@@ -73,6 +79,10 @@ Operands:
                or z bits; what is assigned to such bits is lost.
   {a, 4'd2}    the bits of all, the first on top, unsigned
   {4{a}}       the same four times; the number is a constant
+  $clog2(a)    a function: $signed $unsigned $clog2 $rtoi $itor $realtobits
+               $bitstoreal $ln $log10 $exp $sqrt $pow $floor $ceil $sin $cos
+               $tan $asin $acos $atan $atan2 $hypot $sinh $cosh $tanh $asinh
+               $acosh $atanh; arguments determine their own size
 Underscores may divide digits. x and z (or ?) are digits too, in decimal only
 alone. Spaces may stand before the quote and after the base. No value is wider
 than 10000000 bits.
@@ -130,10 +140,32 @@ the other operators each bit counts by itself:
   tarncalc -b "4'b0011 & 4'b01xz"   4'b00xx
   tarncalc -b "4'b10x0 == 4'b1001"  1'b0
 
+Reals are allowed with + - * / ** < <= > >= == != ! && || and ?:, and make the
+result of the first five and of ?: real. A vector beside a real is calculated by
+itself, then converted; its x and z bits count as 0.
+
+$display and $write write strings as they are and values in decimal, reals with
+six digits; an argument that is left out is a space. $displayb, $displayo and
+$displayh, and $write likewise, write vectors in another base. In a string
+  %d           is the next argument in decimal, right-aligned in a field for any
+               value of its type; %0d takes as little room as it needs, %8d at
+               least eight characters, %08d the same filled with zeros
+  %b %o %h %x  are all its digits; %0b as few as it needs, %8b at least eight
+  %c %s        are its low 8 bits, and all its bits, as characters; %s has blanks
+               for zeros, %0s and %8s leave them out
+  %t           is like %20d
+  %e %f %g     are those of C, %10.3f too; vectors are converted
+  %%           is a percent sign
+A digit or number only some of whose bits are x or z is X or Z. So
+$display("[%d][%0d][%h]", 8'd5, -1, 8'bx1) writes [  5][-1][xX].
+
+  tarncalc -d "7 / 2 + 0.5"         3.5
+
 A result, given back as an expression, has the same value. So a negative number
 in decimal has its minus in front of the literal; and where an octal, decimal
 or hexadecimal digit can't tell which bits are x or z, the value is printed in
-binary, whatever base was chosen:
+binary, whatever base was chosen; a real has as many digits as it takes, and
+"inf" and "nan" can't be given back:
 
   tarncalc "8'b0000x000"            8'b0000x000
   tarncalc -d "8'hx1"               8'bxxxx0001

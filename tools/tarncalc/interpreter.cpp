@@ -6,6 +6,7 @@
 
 #include "assign.h"
 #include "diagnostic.h"
+#include "display.h"
 #include "format.h"
 
 namespace tarncalc {
@@ -36,8 +37,11 @@ std::vector<std::string_view> Interpreter::Execute(const Statement& statement) {
 
 void Interpreter::Execute(const Declaration& declaration, Context& context) {
     constexpr Range kIntegerBits{31, 0};
-    Shape shape{declaration.isSigned, {}, {}};
+    Shape shape;
+    shape.isReal = declaration.kind == Declaration::Kind::kReal;
+    shape.isSigned = declaration.isSigned;
     if (declaration.kind == Declaration::Kind::kInteger) {
+        shape.isSigned = true;
         shape.bits = kIntegerBits;
     } else if (declaration.range) {
         shape.bits = RangeOf(*declaration.range, context);
@@ -45,6 +49,9 @@ void Interpreter::Execute(const Declaration& declaration, Context& context) {
     }
     for (const Declarator& declarator : declaration.declarators) {
         shape.elements.reset();
+        if (declarator.elements && shape.isReal) {
+            throw InputError(declarator.elements->place, "a memory can't hold reals");
+        }
         if (declarator.elements) shape.elements = RangeOf(*declarator.elements, context);
         if (declarator.initial && shape.IsMemory()) {
             throw InputError(declarator.initial->tree.back().place,
@@ -58,6 +65,10 @@ void Interpreter::Execute(const Declaration& declaration, Context& context) {
 
 void Interpreter::Execute(const Assignment& assignment, Context& context) {
     Assign(FieldsOf(assignment.target, context), assignment.value, context);
+}
+
+void Interpreter::Execute(const TaskCall& call, Context& context) {
+    output_ << TextOf(call, context);
 }
 
 void Interpreter::Execute(const Expression& expression, Context& context) {

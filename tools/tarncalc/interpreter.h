@@ -24,6 +24,7 @@ class Interpreter {
   private:
     void Execute(const Declaration& declaration, Context& context);
     void Execute(const Assignment& assignment, Context& context);
+    void Execute(const TaskCall& call, Context& context);
     void Execute(const Expression& expression, Context& context);
 
     const Radix& radix_;

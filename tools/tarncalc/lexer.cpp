@@ -59,6 +59,9 @@ Token Lexer::Next() {
     } else if (BeginsName(rest.front())) {
         token.kind = Token::Kind::kName;
         token.text = NameAt(rest);
+    } else if (rest.front() == '$' && rest.size() > 1 && BeginsName(rest[1])) {
+        token.kind = Token::Kind::kSystemName;
+        token.text = NameAt(rest);
     } else {
         token.kind = Token::Kind::kSymbol;
         token.text = LongestSymbol(rest);

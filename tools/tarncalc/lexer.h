@@ -11,11 +11,11 @@
 namespace tarncalc {
 
 struct Token {
-    enum class Kind { kNone, kLiteral, kName, kSymbol, kLineEnd, kEnd };
+    enum class Kind { kNone, kLiteral, kName, kSystemName, kSymbol, kLineEnd, kEnd };
 
     Kind kind = Kind::kNone;
     Place place = nullptr;
-    std::string_view text;  // of a name or a symbol
+    std::string_view text;  // of a name, with its $ if it has one, or of a symbol
     Literal literal;
 
     bool Is(std::string_view symbol) const { return kind == Kind::kSymbol && text == symbol; }

@@ -133,6 +133,31 @@ Literal ScanBased(std::string_view text, std::size_t quote, Literal literal) {
     return literal;
 }
 
+/** The place behind the fraction and the exponent that follow a number, or `position` where neither
+ *  does. */
+std::size_t SkipFraction(std::string_view text, std::size_t position) {
+    const auto isDigitAt = [text](std::size_t at) { return at < text.size() && IsDigit(text[at]); };
+    const auto isDigit = [](char c) { return IsDigit(c) || c == '_'; };
+    std::size_t end = position;
+    if (end < text.size() && text[end] == '.') {
+        if (!isDigitAt(end + 1))
+            throw InputError(text.data() + end, "expected digits behind the point");
+        end = SkipWhile(text, end + 1, isDigit);
+    }
+    if (end < text.size() && ToLower(text[end]) == 'e') {
+        const bool hasSign =
+            end + 1 < text.size() && (text[end + 1] == '+' || text[end + 1] == '-');
+        const std::size_t digits = end + (hasSign ? 2 : 1);
+        if (!isDigitAt(digits))
+            throw InputError(text.data() + end, "expected digits in the exponent");
+        end = SkipWhile(text, digits, isDigit);
+    }
+    if (end != position && end < text.size() && IsNumberCharacter(text[end])) {
+        throw InputError(text.data() + end, CharacterName(text, end) + " is no decimal digit");
+    }
+    return end;
+}
+
 Literal ScanNumber(std::string_view text, std::size_t position) {
     Literal literal;
     literal.spelling = text.substr(position);
@@ -144,6 +169,13 @@ Literal ScanNumber(std::string_view text, std::size_t position) {
         literal.sizeText = literal.digits;
         if (!literal.sizeText.empty()) CheckSize(literal);
         return ScanBased(text, next, literal);
+    }
+    const std::size_t realEnd = SkipFraction(text, end);
+    if (realEnd != end) {
+        literal.kind = Literal::Kind::kReal;
+        SetSpelling(literal, text, realEnd);
+        literal.digits = literal.spelling;
+        return literal;
     }
     literal.radix = &kDecimal;
     if (end < text.size() && IsNumberCharacter(text[end])) {
@@ -178,6 +210,7 @@ Literal ScanString(std::string_view text, std::size_t position) {
     }
     if (at == text.size()) throw InputError(text.data() + position, "missing closing double quote");
     Literal literal;
+    literal.kind = Literal::Kind::kString;
     literal.spelling = text.substr(position);
     SetSpelling(literal, text, at + 1);
     literal.digits = literal.spelling;

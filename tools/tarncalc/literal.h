@@ -13,12 +13,15 @@ namespace tarncalc {
 
 /** The parts of a literal, all of them views of the source's text. */
 struct Literal {
+    enum class Kind { kNumber, kReal, kString };
+
+    Kind kind = Kind::kNumber;
     std::string_view spelling;  // the whole literal
     std::string_view sizeText;  // 8 of 8'shFF; empty without a size
     std::string_view prefix;    // 'sh of 8'shFF, the quote of a fill digit; empty without a quote
-    std::string_view digits;    // FF of 8'shFF; a string literal whole, with its double quotes
+    std::string_view digits;    // FF of 8'shFF; a real, and a string with its double quotes, whole
 
-    /** Null for a string literal. */
+    /** Null for a real and a string. */
     const Radix* radix = nullptr;
 
     /** The bits that the digits need, without their leading zeros. An x or z that stands first
@@ -29,7 +32,7 @@ struct Literal {
 
     /** Whether it is a number whose width its context should give. */
     bool IsUnsized() const noexcept {
-        return radix != nullptr && sizeText.empty() && prefix != "'";
+        return kind == Kind::kNumber && sizeText.empty() && prefix != "'";
     }
 };
 

@@ -67,7 +67,6 @@ constexpr ReductionRow kReductions[] = {
     {Operator::kReduceNor, tarn_ReductionOR, true},
     {Operator::kReduceXor, tarn_ReductionXOR, false},
     {Operator::kReduceXnor, tarn_ReductionXOR, true},
-    {Operator::kLogicalNot, tarn_LogicalValue, true},
 };
 
 template <typename Row, std::size_t kCount>
@@ -88,6 +87,7 @@ void Write(Binary* function, Value& left, const Value& right) {
 }
 
 LogicCode TruthOf(const Value& value) {
+    if (value.IsReal()) return LogicCode{value.Real() != 0};
     return tarn_LogicalValue(value.Width(), value.Words());
 }
 
@@ -116,6 +116,44 @@ LogicCode Compare(Operator op, const Value& left, const Value& right) {
                                      : (isSigned ? tarn_SignedRelation : tarn_UnsignedRelation);
     const int result = function(left.Width(), left.Words(), right.Width(), right.Words());
     return row != nullptr ? result : OutcomeOf(op, result);
+}
+
+LogicCode CompareReals(Operator op, double left, double right) {
+    switch (op) {
+        case Operator::kLess:
+            return LogicCode{left < right};
+        case Operator::kLessEqual:
+            return LogicCode{left <= right};
+        case Operator::kGreater:
+            return LogicCode{left > right};
+        case Operator::kGreaterEqual:
+            return LogicCode{left >= right};
+        case Operator::kEqual:
+            return LogicCode{left == right};
+        default:
+            return LogicCode{left != right};
+    }
+}
+
+/** An operator one of whose operands at least is a real. */
+Value CalculateReals(Operator op, double left, double right) {
+    switch (op) {
+        case Operator::kAdd:
+            return Value(left + right);
+        case Operator::kSubtract:
+            return Value(left - right);
+        case Operator::kMultiply:
+            return Value(left * right);
+        case Operator::kDivide:
+            return Value(left / right);
+        case Operator::kPower: {
+            double power = 0;
+            tarn_PowerR(&power, left, right);
+            return Value(power);
+        }
+        default:
+            return Value::OfCode(CompareReals(op, left, right));
+    }
 }
 
 void Shift(Operator op, Value& operand, Value& amount) {
@@ -161,18 +199,27 @@ void Put(Value& operand, Value& result, int& position) {
 }  // namespace
 
 void ApplyUnary(Operator op, Value& operand) {
+    if (op == Operator::kMinus && operand.IsReal()) operand = Value(-operand.Real());
+    if (operand.IsReal() && op != Operator::kLogicalNot) return;
     const auto apply = [&operand](const Twins<Unary>& twins) {
         const int width = operand.Width();
         Choose(twins, operand.GetType().isSigned)(width, operand.Words(), width, operand.Words());
         operand.RestoreTopWord();
     };
     if (const Twins<Unary>* const twins = Find(kUnary, op)) return apply(*twins);
-    const ReductionRow& row = *Find(kReductions, op);
-    operand = Value::OfCode(row.function(operand.Width(), operand.Words()));
-    if (row.isInverted) apply(*Find(kUnary, Operator::kNot));
+    const ReductionRow* const row = Find(kReductions, op);
+    operand = Value::OfCode(row == nullptr ? TruthOf(operand)
+                                           : row->function(operand.Width(), operand.Words()));
+    if (row == nullptr || row->isInverted) apply(*Find(kUnary, Operator::kNot));
 }
 
 void ApplyBinary(Operator op, Value& left, Value& right) {
+    const bool isLogical = op == Operator::kLogicalAnd || op == Operator::kLogicalOr;
+    if (isLogical) return Combine(op, left, right);
+    if (left.IsReal() || right.IsReal()) {
+        left = CalculateReals(op, left.Real(), right.Real());
+        return;
+    }
     const bool isSigned = left.GetType().isSigned;
     if (const Twins<Binary>* const twins = Find(kBinary, op)) {
         Write(Choose(*twins, isSigned), left, right);
@@ -188,10 +235,6 @@ void ApplyBinary(Operator op, Value& left, Value& right) {
         case Operator::kArithmeticShiftRight:
             Shift(op, left, right);
             break;
-        case Operator::kLogicalAnd:
-        case Operator::kLogicalOr:
-            Combine(op, left, right);
-            break;
         default:
             left = Value::OfCode(Compare(op, left, right));
     }
@@ -199,6 +242,11 @@ void ApplyBinary(Operator op, Value& left, Value& right) {
 
 void ApplyConditional(Value& condition, Value& left, Value& right) {
     const LogicCode truth = TruthOf(condition);
+    if (left.IsReal() || right.IsReal()) {
+        const Value& chosen = truth == TARN_LOGIC_0 ? right : left;
+        condition = Value(truth == TARN_LOGIC_X ? 0 : chosen.Real());
+        return;
+    }
     if (truth == TARN_LOGIC_X) {
         const bool isSigned = left.GetType().isSigned;
         Write(isSigned ? tarn_SignedConditionalMix : tarn_UnsignedConditionalMix, left, right);
@@ -206,7 +254,11 @@ void ApplyConditional(Value& condition, Value& left, Value& right) {
     condition = std::move(truth == TARN_LOGIC_0 ? right : left);
 }
 
-Value Concatenate(std::span<Value> operands, int width) {
+Value Concatenate(std::span<Value> operands) {
+    int width = 0;
+    for (const Value& operand : operands) {
+        width += operand.Width();
+    }
     Value result(Type{width, false});
     int position = 0;
     for (std::size_t place = operands.size(); place-- > 0;) {

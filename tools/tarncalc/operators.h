@@ -62,17 +62,19 @@ struct OperatorRow {
     std::size_t operandCount;
     int precedence;
     Sizing sizing;
+    bool allowsReals = false;
 };
 
 inline constexpr int kUnaryPrecedence = 13;
 inline constexpr int kConditionalPrecedence = 1;
 
 /** The precedence counts the rows of IEEE 1364-2005, table 5-4, from its foot: higher binds
- *  tighter. Operators of one precedence group from the left, but ?: from the right. */
+ *  tighter. Operators of one precedence group from the left, but ?: from the right. Table 5-3 tells
+ *  which operators allow reals. */
 inline constexpr OperatorRow kOperators[] = {
-    {"+", Operator::kPlus, 1, kUnaryPrecedence, Sizing::kAll},
-    {"-", Operator::kMinus, 1, kUnaryPrecedence, Sizing::kAll},
-    {"!", Operator::kLogicalNot, 1, kUnaryPrecedence, Sizing::kNone},
+    {"+", Operator::kPlus, 1, kUnaryPrecedence, Sizing::kAll, true},
+    {"-", Operator::kMinus, 1, kUnaryPrecedence, Sizing::kAll, true},
+    {"!", Operator::kLogicalNot, 1, kUnaryPrecedence, Sizing::kNone, true},
     {"~", Operator::kNot, 1, kUnaryPrecedence, Sizing::kAll},
     {"&", Operator::kReduceAnd, 1, kUnaryPrecedence, Sizing::kNone},
     {"~&", Operator::kReduceNand, 1, kUnaryPrecedence, Sizing::kNone},
@@ -81,22 +83,22 @@ inline constexpr OperatorRow kOperators[] = {
     {"^", Operator::kReduceXor, 1, kUnaryPrecedence, Sizing::kNone},
     {"~^", Operator::kReduceXnor, 1, kUnaryPrecedence, Sizing::kNone},
     {"^~", Operator::kReduceXnor, 1, kUnaryPrecedence, Sizing::kNone},
-    {"**", Operator::kPower, 2, 12, Sizing::kAllButLast},
-    {"*", Operator::kMultiply, 2, 11, Sizing::kAll},
-    {"/", Operator::kDivide, 2, 11, Sizing::kAll},
+    {"**", Operator::kPower, 2, 12, Sizing::kAllButLast, true},
+    {"*", Operator::kMultiply, 2, 11, Sizing::kAll, true},
+    {"/", Operator::kDivide, 2, 11, Sizing::kAll, true},
     {"%", Operator::kModulo, 2, 11, Sizing::kAll},
-    {"+", Operator::kAdd, 2, 10, Sizing::kAll},
-    {"-", Operator::kSubtract, 2, 10, Sizing::kAll},
+    {"+", Operator::kAdd, 2, 10, Sizing::kAll, true},
+    {"-", Operator::kSubtract, 2, 10, Sizing::kAll, true},
     {"<<", Operator::kShiftLeft, 2, 9, Sizing::kAllButLast},
     {"<<<", Operator::kShiftLeft, 2, 9, Sizing::kAllButLast},
     {">>", Operator::kShiftRight, 2, 9, Sizing::kAllButLast},
     {">>>", Operator::kArithmeticShiftRight, 2, 9, Sizing::kAllButLast},
-    {"<", Operator::kLess, 2, 8, Sizing::kCompared},
-    {"<=", Operator::kLessEqual, 2, 8, Sizing::kCompared},
-    {">", Operator::kGreater, 2, 8, Sizing::kCompared},
-    {">=", Operator::kGreaterEqual, 2, 8, Sizing::kCompared},
-    {"==", Operator::kEqual, 2, 7, Sizing::kCompared},
-    {"!=", Operator::kNotEqual, 2, 7, Sizing::kCompared},
+    {"<", Operator::kLess, 2, 8, Sizing::kCompared, true},
+    {"<=", Operator::kLessEqual, 2, 8, Sizing::kCompared, true},
+    {">", Operator::kGreater, 2, 8, Sizing::kCompared, true},
+    {">=", Operator::kGreaterEqual, 2, 8, Sizing::kCompared, true},
+    {"==", Operator::kEqual, 2, 7, Sizing::kCompared, true},
+    {"!=", Operator::kNotEqual, 2, 7, Sizing::kCompared, true},
     {"===", Operator::kCaseEqual, 2, 7, Sizing::kCompared},
     {"!==", Operator::kCaseNotEqual, 2, 7, Sizing::kCompared},
     {"==?", Operator::kWildEqual, 2, 7, Sizing::kCompared},
@@ -106,9 +108,9 @@ inline constexpr OperatorRow kOperators[] = {
     {"~^", Operator::kXnor, 2, 5, Sizing::kAll},
     {"^~", Operator::kXnor, 2, 5, Sizing::kAll},
     {"|", Operator::kOr, 2, 4, Sizing::kAll},
-    {"&&", Operator::kLogicalAnd, 2, 3, Sizing::kNone},
-    {"||", Operator::kLogicalOr, 2, 2, Sizing::kNone},
-    {"?", Operator::kConditional, 3, kConditionalPrecedence, Sizing::kAllButFirst},
+    {"&&", Operator::kLogicalAnd, 2, 3, Sizing::kNone, true},
+    {"||", Operator::kLogicalOr, 2, 2, Sizing::kNone, true},
+    {"?", Operator::kConditional, 3, kConditionalPrecedence, Sizing::kAllButFirst, true},
 };
 
 inline constexpr std::size_t kMaxOperands = 3;

@@ -122,6 +122,8 @@ Selection Select(const ReferenceNode& node, Place place, Scope& scope,
         throw InputError(place, InQuotes(node.name) + " is a memory: an index must choose a word");
     }
     if (node.indexCount == expected && node.part == Part::kNone) return selection;
+    if (shape.isReal)
+        throw InputError(place, InQuotes(node.name) + " is a real, which has no bits");
     if (!shape.bits) {
         throw InputError(place, InQuotes(node.name) + " is a single bit, which has no parts");
     }
@@ -130,7 +132,7 @@ Selection Select(const ReferenceNode& node, Place place, Scope& scope,
             throw InputError(place, "a bit of " + InQuotes(node.name) + " has no parts");
         }
         selection.hasBit = true;
-        selection.type = kBit;
+        selection.type = kBitType;
     } else if (hasBase) {
         const int width = constants[node.right];
         if (width < 1) throw InputError(place, "the width of a part must be at least 1");
@@ -160,6 +162,7 @@ Field Locate(const Selection& selection, std::span<Value> indices) {
 }
 
 Value Read(const Field& field) {
+    if (field.type.isReal) return Value(field.variable->GetValue().Real());
     Value result(field.type);
     if (!Overlaps(field)) {
         result.SetUnknown();
@@ -173,16 +176,17 @@ Value Read(const Field& field) {
 
 void Write(const Field& field, Value value) {
     if (!Overlaps(field)) return;
-    if (field.variable->GetShape().IsMemory()) {
-        value.Convert({value.Width(), false});
+    const bool isMemory = field.variable->GetShape().IsMemory();
+    value.Convert({field.type.width, field.type.isSigned && !isMemory, field.type.isReal});
+    if (isMemory) {
         WriteMemory(field, value);
     } else {
-        value.Convert({value.Width(), field.type.isSigned});
         WriteVector(field, std::move(value));
     }
 }
 
 std::optional<int> IntegerOf(const Value& value) {
+    if (value.IsReal()) return std::nullopt;
     const auto scan =
         value.GetType().isSigned ? tarn_SignedScanIndexOfSelect : tarn_UnsignedScanIndexOfSelect;
     if (scan(value.Width(), value.Words()) == 0) return std::nullopt;

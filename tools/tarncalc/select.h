@@ -43,11 +43,11 @@ Field Locate(const Selection& selection, std::span<Value> indices);
 /** Bits outside the variable are X. */
 Value Read(const Field& field);
 
-/** Bits outside the variable are left out. The value has the width of the field. */
+/** Writes a value, converted to the type of the field. Bits outside the variable are left out. */
 void Write(const Field& field, Value value);
 
-/** The number that an index or a constant means; none where it is unknown or needs more than 32
- *  bits. */
+/** The number that an index or a constant means; none where it is unknown, needs more than
+ *  32 bits or is a real. */
 std::optional<int> IntegerOf(const Value& value);
 
 }  // namespace tarncalc

@@ -27,10 +27,10 @@ struct Declarator {
 };
 
 struct Declaration {
-    enum class Kind { kReg, kInteger };
+    enum class Kind { kReg, kInteger, kReal };
 
-    Kind kind;
-    bool isSigned;
+    Kind kind = Kind::kReg;
+    bool isSigned = false;
     std::optional<RangeText> range;
     std::vector<Declarator> declarators;
 };
@@ -39,8 +39,16 @@ struct Assignment {
     Expression target, value;
 };
 
+struct TaskRow;
+
+/** A call of a task; an argument that is left out stands for a space. */
+struct TaskCall {
+    const TaskRow* row;
+    std::vector<std::optional<Expression>> arguments;
+};
+
 /** An expression stands for the output of its value. */
-using Statement = std::variant<Declaration, Assignment, Expression>;
+using Statement = std::variant<Declaration, Assignment, TaskCall, Expression>;
 
 }  // namespace tarncalc
 

@@ -22,6 +22,7 @@ class StatementParser {
 
   private:
     Statement ParseStatement();
+    TaskCall ParseTaskCall(const TaskRow& row);
     Declaration ParseDeclaration();
     Declarator ParseDeclarator();
     std::optional<RangeText> ParseRange();

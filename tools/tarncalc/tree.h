@@ -9,6 +9,7 @@
 #include <variant>
 #include <vector>
 
+#include "functions.h"
 #include "literal.h"
 #include "operators.h"
 #include "source.h"
@@ -53,10 +54,15 @@ struct ReplicationNode {
     ConstantIndex count;
 };
 
+struct CallNode {
+    const FunctionRow* row;
+};
+
 struct Node {
     Place place;            // of the operator or of the operand
     std::size_t nodeCount;  // of the subtree: this node and everything below it
-    std::variant<Literal, OperatorNode, ReferenceNode, ConcatenationNode, ReplicationNode> content;
+    std::variant<Literal, OperatorNode, ReferenceNode, ConcatenationNode, ReplicationNode, CallNode>
+        content;
 };
 
 /** The nodes in postorder: operands stand before their operators, left before right, the root is
@@ -72,22 +78,34 @@ struct Expression {
     std::vector<Tree> constants;
 };
 
+/** How many operands a node has. */
+inline std::size_t OperandCountOf(const Node& node) {
+    struct Count {
+        std::size_t operator()(const Literal&) const { return 0; }
+        std::size_t operator()(const OperatorNode& node) const { return node.row->operandCount; }
+        std::size_t operator()(const ReferenceNode& node) const { return node.indexCount; }
+        std::size_t operator()(const ConcatenationNode& node) const { return node.operandCount; }
+        std::size_t operator()(const ReplicationNode&) const { return 1; }
+        std::size_t operator()(const CallNode& node) const { return node.row->argumentCount; }
+    };
+    return std::visit(Count{}, node.content);
+}
+
 /** Calls visit(operand) for each operand of a node, from the last to the first. */
 template <typename Visitor>
-void ForEachOperand(TreeView tree, NodeIndex index, std::size_t operandCount, Visitor visit) {
+void ForEachOperand(TreeView tree, NodeIndex index, Visitor visit) {
     NodeIndex operand = index - 1;
-    for (std::size_t place = operandCount; place-- > 0;) {
+    for (std::size_t place = OperandCountOf(tree[index]); place-- > 0;) {
         visit(operand);
         operand -= tree[operand].nodeCount;
     }
 }
 
 /** The operands of an operator, in the order of the text; places beyond their count are unused. */
-inline std::array<NodeIndex, kMaxOperands> OperandsOf(TreeView tree, NodeIndex index,
-                                                      std::size_t operandCount) {
+inline std::array<NodeIndex, kMaxOperands> OperandsOf(TreeView tree, NodeIndex index) {
     std::array<NodeIndex, kMaxOperands> operands{};
-    auto* place = operands.begin() + operandCount;
-    ForEachOperand(tree, index, operandCount, [&](NodeIndex operand) { *--place = operand; });
+    auto* place = operands.begin() + OperandCountOf(tree[index]);
+    ForEachOperand(tree, index, [&](NodeIndex operand) { *--place = operand; });
     return operands;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 #include "diagnostic.h"
 
@@ -46,11 +47,10 @@ class TypeRules {
             types_[index] = std::visit(ownType, tree_[index].content);
         }
         Type& root = types_.back();
-        if (root.width > 0) root.width = std::max(root.width, contextWidth);
+        if (root.width > 0 && !root.isReal) root.width = std::max(root.width, contextWidth);
         for (NodeIndex index = tree_.size(); index-- > 0;) {
             if (types_[index].width == 0 && !mayBeEmpty_[index]) {
-                throw InputError(tree_[index].place,
-                                 "an empty replication must stand in a concatenation");
+                Reject(index, "an empty replication must stand in a concatenation");
             }
             const auto passDown = [&](const auto& content) { PassDown(content, index); };
             std::visit(passDown, tree_[index].content);
@@ -61,25 +61,34 @@ class TypeRules {
   private:
     Type OwnType(const Literal& /*literal*/, NodeIndex index) const { return leafType_(index); }
 
-    Type OwnType(const ReferenceNode& /*node*/, NodeIndex index) const { return leafType_(index); }
-
-    Type OwnType(const OperatorNode& node, NodeIndex index) const {
-        const Sizing sizing = node.row->sizing;
-        const bool isBit = sizing == Sizing::kCompared || sizing == Sizing::kNone;
-        return isBit ? kBit : SharedType(*node.row, index);
+    Type OwnType(const ReferenceNode& /*node*/, NodeIndex index) const {
+        ForEachOperand(tree_, index, [&](NodeIndex operand) {
+            if (types_[operand].isReal) Reject(operand, "an index can't be a real");
+        });
+        return leafType_(index);
     }
 
-    Type OwnType(const ConcatenationNode& node, NodeIndex index) const {
+    Type OwnType(const OperatorNode& node, NodeIndex index) const {
+        ForEachOperand(tree_, index, [&](NodeIndex operand) {
+            if (!types_[operand].isReal || node.row->allowsReals) return;
+            Reject(index, InQuotes(node.row->spelling) + " can't be applied to a real");
+        });
+        const Sizing sizing = node.row->sizing;
+        const bool isBit = sizing == Sizing::kCompared || sizing == Sizing::kNone;
+        return isBit ? kBitType : SharedType(*node.row, index);
+    }
+
+    Type OwnType(const ConcatenationNode& /*node*/, NodeIndex index) const {
         std::int64_t width = 0;
-        ForEachOperand(tree_, index, node.operandCount, [&](NodeIndex operand) {
+        ForEachOperand(tree_, index, [&](NodeIndex operand) {
             const auto* const literal = std::get_if<Literal>(&tree_[operand].content);
             if (literal != nullptr && literal->IsUnsized()) {
-                throw InputError(literal->GetPlace(),
-                                 "a number in a concatenation must have a size");
+                Reject(operand, "a number in a concatenation must have a size");
             }
+            if (types_[operand].isReal) Reject(operand, "a real can't be concatenated");
             width += types_[operand].width;
         });
-        if (width == 0) throw InputError(tree_[index].place, "this concatenation has no bits");
+        if (width == 0) Reject(index, "this concatenation has no bits");
         return VectorOf(width, index);
     }
 
@@ -90,6 +99,22 @@ class TypeRules {
         return VectorOf(std::int64_t{count} * types_[index - 1].width, index);
     }
 
+    Type OwnType(const CallNode& node, NodeIndex index) const {
+        const FunctionRow& row = *node.row;
+        Type type;
+        ForEachOperand(tree_, index, [&](NodeIndex operand) {
+            type = types_[operand];
+            if (type.isReal && row.taken == Taken::kVector) {
+                Reject(operand, InQuotes(row.name) + " needs a vector");
+            }
+        });
+        return ResultTypeOf(row, type);
+    }
+
+    [[noreturn]] void Reject(NodeIndex index, const std::string& message) const {
+        throw InputError(tree_[index].place, message);
+    }
+
     Type VectorOf(std::int64_t width, NodeIndex index) const {
         CheckWidth(width, tree_[index].place);
         return {static_cast<int>(width), false};
@@ -97,14 +122,19 @@ class TypeRules {
 
     /** The type that the operands of an operator share, from what each of them is by itself. */
     Type SharedType(const OperatorRow& row, NodeIndex index) const {
-        const auto operands = OperandsOf(tree_, index, row.operandCount);
+        const auto operands = OperandsOf(tree_, index);
         const auto [begin, end] = SharedOperandsOf(row);
         Type shared = types_[operands[begin]];
         for (std::size_t place = begin + 1; place < end; ++place) {
             const Type& type = types_[operands[place]];
-            shared = {std::max(shared.width, type.width), shared.isSigned && type.isSigned};
+            const bool isReal = shared.isReal || type.isReal;
+            shared =
+                isReal ? kRealType
+                       : Type{std::max(shared.width, type.width), shared.isSigned && type.isSigned};
         }
-        return shared;
+        // A real exponent makes a real power, though it doesn't share its type.
+        const bool isPower = row.op == Operator::kPower;
+        return isPower && types_[operands[1]].isReal ? kRealType : shared;
     }
 
     template <typename Content>
@@ -114,17 +144,17 @@ class TypeRules {
         const OperatorRow& row = *node.row;
         const bool isCompared = row.sizing == Sizing::kCompared;
         const Type shared = isCompared ? SharedType(row, index) : types_[index];
-        const auto operands = OperandsOf(tree_, index, row.operandCount);
+        const auto operands = OperandsOf(tree_, index);
         const auto [begin, end] = SharedOperandsOf(row);
         for (std::size_t place = begin; place < end; ++place) {
             Type& type = types_[operands[place]];
-            if (type.width > 0) type = shared;
+            // Beside a real a vector keeps the type that it determines itself.
+            if (type.width > 0 && !shared.isReal) type = shared;
         }
     }
 
-    void PassDown(const ConcatenationNode& node, NodeIndex index) {
-        ForEachOperand(tree_, index, node.operandCount,
-                       [&](NodeIndex operand) { mayBeEmpty_[operand] = true; });
+    void PassDown(const ConcatenationNode& /*node*/, NodeIndex index) {
+        ForEachOperand(tree_, index, [&](NodeIndex operand) { mayBeEmpty_[operand] = true; });
     }
 
     TreeView tree_;

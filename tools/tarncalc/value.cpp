@@ -35,15 +35,21 @@ void CheckWidth(std::int64_t width, Place place) {
 }
 
 Value::Value(Type type)
-    : type_(type), words_(std::make_unique<VectorWord[]>(WordCount(type.width))) {}
+    : type_(type),
+      words_(type.isReal ? nullptr : std::make_unique<VectorWord[]>(WordCount(type.width))) {}
 
 Value Value::OfCode(LogicCode code) {
-    Value value(kBit);
+    Value value(kBitType);
     value.words_[0] = tarn_LogicVectorLUT[code];
     return value;
 }
 
-Value::Value(const Literal& literal, bool& isCut) : type_{0, false} {
+Value::Value(const Literal& literal, bool& isCut) {
+    if (literal.kind == Literal::Kind::kReal) {
+        type_ = kRealType;
+        tarn_CreateReal(std::string(literal.digits).c_str(), &real_);
+        return;
+    }
     const std::string sizeText(literal.sizeText);
     const std::string valueText = std::string(literal.prefix).append(literal.digits);
     unsigned char truncated = 0;
@@ -60,7 +66,24 @@ Value::Value(const Literal& literal, bool& isCut) : type_{0, false} {
     RestoreTopWord();
 }
 
+double Value::Real() const noexcept {
+    if (type_.isReal) return real_;
+    const auto convert = type_.isSigned ? tarn_SignedConvertToReal : tarn_UnsignedConvertToReal;
+    return convert(type_.width, words_.get());
+}
+
 void Value::Convert(Type type) {
+    if (type.isReal) {
+        *this = Value(Real());
+        return;
+    }
+    if (type_.isReal) {
+        Value vector(type);
+        tarn_ConvertToVector(type.width, vector.Words(), real_);
+        vector.RestoreTopWord();
+        *this = std::move(vector);
+        return;
+    }
     type_.isSigned = type.isSigned;
     RestoreTopWord();
     if (type.width == type_.width) return;
@@ -74,13 +97,14 @@ void Value::Convert(Type type) {
 }
 
 void Value::SetUnknown() noexcept {
+    if (type_.isReal) return;
     std::fill_n(words_.get(), WordCount(type_.width), VectorWord{~0U, ~0U});
     RestoreTopWord();
 }
 
 void Value::RestoreTopWord() noexcept {
     const int bitCount = type_.width % kWordBits;
-    if (bitCount == 0) return;
+    if (type_.isReal || bitCount == 0) return;
     VectorWord& top = words_[WordCount(type_.width) - 1];
     top.aval = ExtendSlice(top.aval, bitCount, type_.isSigned);
     top.bval = ExtendSlice(top.bval, bitCount, type_.isSigned);

@@ -34,24 +34,25 @@ struct Range {
 
 /** What a declaration gives a variable. */
 struct Shape {
+    bool isReal = false;
     bool isSigned = false;
     std::optional<Range> bits;      // none for a single bit, which has no bits to select
     std::optional<Range> elements;  // of a memory
 
     int Width() const noexcept { return bits ? static_cast<int>(bits->Count()) : 1; }
-    Type GetType() const noexcept { return {Width(), isSigned}; }
+    Type GetType() const noexcept { return isReal ? kRealType : Type{Width(), isSigned}; }
     bool IsMemory() const noexcept { return elements.has_value(); }
 };
 
-/** A vector, or the words of a memory one behind the other in the form that the library packs them
- *  into. Every bit begins as X. */
+/** A vector, a real, or the words of a memory one behind the other in the form that the library
+ *  packs them into. Every bit begins as X, a real as 0. */
 class Variable {
   public:
     explicit Variable(const Shape& shape);
 
     const Shape& GetShape() const noexcept { return shape_; }
 
-    /** Of a vector. */
+    /** Of a vector or a real. */
     Value& GetValue() noexcept { return value_; }
 
     /** The word of a memory whose place is `place`. */

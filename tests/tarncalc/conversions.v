@@ -1,0 +1,31 @@
+// One value in every conversion of $display: as it stands, as short as it can be, and in a field.
+reg [31:0] value;
+reg signed [7:0] low;
+reg [11:0] part;
+value = 32'h00544142;
+$display("conversion plain");
+$display("%%b         [%b] [%0b]", value, value);
+$display("%%o         [%o] [%0o]", value, value);
+$display("%%d         [%d] [%0d] [%12d] [%012d] [%3d]", value, value, value, value, value);
+$display("%%h         [%h] [%0h]", value, value);
+$display("%%x         [%x] [%0x]", value, value);
+$display("%%c         [%c] [%3c]", value, value);
+$display("%%s         [%s] [%0s] [%6s] [%2s]", value, value, value, value);
+$display("%%t         [%t] [%0t]", value, value);
+$display("%%e         [%e] [%16e] [%.2e]", value, value, value);
+$display("%%f         [%f] [%0f] [%16.3f] [%016.3f]", value, value, value, value);
+$display("%%g         [%g] [%.9g]", value, value);
+$display(value, , value + 1, " ", "ab", 1.0 * value);
+$displayb(value); $displayo(value); $displayh(value);
+$write("no", " "); $write("end\n");
+// A signed one, and ones with unknown bits: in all digits, in one, in some bits of one.
+low = -91;
+$display("[%b] [%o] [%h] [%d] [%0d] [%6d] [%06d] [%e]", low, low, low, low, low, low, low, low);
+part = 12'bx;
+$display("[%b] [%o] [%h] [%d] [%0d] [%s]", part, part, part, part, part, part);
+part = 12'b0000_xxxx_0101;
+$display("[%b] [%o] [%h] [%0h] [%d] [%0d]", part, part, part, part, part, part);
+part = 12'b1z10_zzzz_xz01;
+$display("[%b] [%o] [%h] [%d] [%0d] [%g]", part, part, part, part, part, part);
+part = 12'bz;
+$display("[%b] [%o] [%h] [%d] [%0d] [%d]", part, part, part, part, part, part === 12'bz);
