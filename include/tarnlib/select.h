@@ -115,11 +115,13 @@ TARNLIB_API void tarn_Concatenate(int span, VectorWord* destination, int operand
 
 /** Places an operand that is laid out as its destination is: its bit k goes to bit k of the word at
  *  `destination`. Its bits below the place are 0.
- *  widths    the span counts the bits from bit 0 of that word to the top of the operand.
+ *  widths    the span counts the bits from bit 0 of that word to the top of the operand, no further:
+ *            the operand has N(span) words.
  *  unknown   X and Z bits are placed as they are.
  *  top word  copied whole: clean storage is expected.
  *  writes    exactly N(span) words; none for a span below 1. The operand is ORed into the first
- *            word and replaces the words above it.
+ *            word, which the caller holds 0 wherever the operand is not, and replaces the words
+ *            above it.
  *  aliasing  destination may be operand itself; other overlapping storage is not supported.
  *  limits    may run in any thread.
  *  source    IEEE 1364-2005, 5.1.14 */

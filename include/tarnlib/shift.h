@@ -13,7 +13,7 @@ TARNLIB_BEGIN_C
  *  unknown   X and Z bits move as they are; zeros move in.
  *  top word  keeps the bits that were moved past the width.
  *  writes    exactly N(resultWidth) words; none for a width below 1. An amount of the result's
- *            width or more gives 0, and reads nothing.
+ *            width or more gives 0.
  *  aliasing  result may be source itself; partly overlapping storage is not supported.
  *  limits    may run in any thread.
  *  source    IEEE 1364-2005, 5.1.12
