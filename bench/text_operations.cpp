@@ -76,7 +76,7 @@ std::vector<Operation> TextOperations() {
          kHex,
          kWritesReal<RealOfCharacters>,
          WritesReal<RealOfLastCharacters>("by shifts"),
-         {{1, 64, kFloor, 4.5}}},
+         {{1, 64, kFloor, 3.0}}},
     };
 }
 

@@ -68,17 +68,19 @@ double Round(const Magnitude& magnitude, std::size_t top, std::uint32_t lead) no
 
 }  // namespace
 
+double NearestReal(bool isNegative, std::uint64_t magnitude) noexcept {
+    if (magnitude == 0) return 0.0;
+    const int unused = std::countl_zero(magnitude);
+    return Assemble(isNegative, 63 - static_cast<unsigned>(unused), magnitude << unused);
+}
+
 template <class Extend>
 double ToRealTwoWords(Operand value) noexcept {
     const std::uint64_t ones = std::uint64_t{KnownOnes(LoadWord(value.words + 1))} << kWordBits |
                                KnownOnes(LoadWord(value.words));
     const int above = 64 - value.width;
     const std::int64_t whole = static_cast<std::int64_t>(ones << above) >> above;
-    const bool isNegative = Extend::kIsSigned && whole < 0;
-    const std::uint64_t magnitude = isNegative ? 0 - static_cast<std::uint64_t>(whole) : ones;
-    if (magnitude == 0) return 0.0;
-    const int unused = std::countl_zero(magnitude);
-    return Assemble(isNegative, 63 - static_cast<unsigned>(unused), magnitude << unused);
+    return Extend::kIsSigned && whole < 0 ? NearestReal(whole) : NearestReal(false, ones);
 }
 
 template double ToRealTwoWords<SignExtend>(Operand) noexcept;

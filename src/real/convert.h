@@ -8,6 +8,14 @@
 
 namespace tarn {
 
+double NearestReal(bool isNegative, std::uint64_t magnitude) noexcept;
+
+// The nearest double of an integer; halves go away from zero.
+inline double NearestReal(std::int64_t value) noexcept {
+    const auto bits = static_cast<std::uint64_t>(value);
+    return NearestReal(value < 0, value < 0 ? 0 - bits : bits);
+}
+
 // The sign of a vector is the top bit of its width here, not of its storage.
 template <class Extend>
 double ToRealTwoWords(Operand value) noexcept;

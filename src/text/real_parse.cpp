@@ -1,11 +1,11 @@
 #include "text/real_parse.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
 #include "real/convert.h"
-#include "text/parse.h"
 #include "text/working_area.h"
 
 namespace tarn {
@@ -20,9 +20,12 @@ double ParseReal(const char* text) {
 }
 
 double PackedReal(std::string_view characters) noexcept {
-    VectorWord words[2];
-    PackCharacters({64, words}, characters);
-    return ToReal<SignExtend>({64, words});
+    characters.remove_prefix(characters.size() - std::min<std::size_t>(characters.size(), 8));
+    std::uint64_t packed = 0;
+    for (const char character : characters) {
+        packed = packed << 8 | static_cast<unsigned char>(character);
+    }
+    return NearestReal(static_cast<std::int64_t>(packed));
 }
 
 }  // namespace tarn
