@@ -30,7 +30,8 @@ struct Field {
     int width;
 };
 
-/** Whether an index selects anything: not with X or Z bits, nor where no 32-bit integer holds it. */
+/** Whether an index selects anything: one with X or Z bits, or that no 32-bit integer holds, does
+ *  not. */
 inline bool IsUsableIndex(vpiHandle object) {
     const bool isSigned = IsSigned(object);
     const Vector index = ReadVector(object, isSigned);

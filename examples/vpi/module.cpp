@@ -2,7 +2,7 @@
 //
 //     $tarn_add(sum, a, b);    // sum = a + b
 //
-// The first argument is a variable, which the result is assigned to; the others are any expressions.
+// The first argument is the variable that takes the result; the others are any expressions.
 // operations.h lists the tasks, shapes.h tells what each kind of task does with its arguments.
 #include <stdexcept>
 #include <string>
