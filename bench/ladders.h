@@ -55,7 +55,11 @@ inline constexpr Contestant kMemcmp{"memcmp", Measure<CompareBytes>, nullptr};
 
 // A code that is right by how the operands were made.
 template <int kRight>
-constexpr Contestant kRightCode = ReturnsCode<[](const Operands&) { return kRight; }>("given");
+int RightCode(const Operands&) {
+    return kRight;
+}
+template <int kRight>
+constexpr Contestant kRightCode = ReturnsCode<RightCode<kRight>>("given");
 
 template <auto kBit>
 constexpr Contestant kBitByBit = WritesWords<BitByBit<kBit>>("bit by bit");

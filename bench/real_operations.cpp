@@ -46,8 +46,11 @@ int BitsOfOdd(const Operands& o) {
 }
 
 template <int kValue>
-constexpr Contestant kRightReal =
-    ReturnsReal<[](const Operands&) { return static_cast<double>(kValue); }>("given");
+double RightReal(const Operands&) {
+    return static_cast<double>(kValue);
+}
+template <int kValue>
+constexpr Contestant kRightReal = ReturnsReal<RightReal<kValue>>("given");
 
 template <void (*kExport)(double*, double), double (*kFunction)(double), int kArgument = kBelowOne>
 Operation OfOne(const char* name) {
