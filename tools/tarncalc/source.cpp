@@ -1,39 +1,35 @@
 #include "source.h"
 
 #include <algorithm>
-#include <functional>
+#include <iterator>
 
 namespace tarncalc {
 
 bool Source::ReadLine(bool continuesStatement) {
-    std::string line;
-    if (!reader_(line, continuesStatement)) return false;
-    lines_.push_back(std::move(line));
+    std::string text;
+    if (!reader_(text, continuesStatement)) return false;
+    const std::size_t number = lines_.empty() ? 1 : lines_.back().number + 1;
+    const Line& line = lines_.emplace_back(Line{number, std::move(text)});
+    linesByPlace_.emplace(line.text.data(), &line);
     return true;
 }
 
 std::string_view Source::CurrentLine() const noexcept {
-    return lines_.empty() ? std::string_view("") : lines_.back();
+    return lines_.empty() ? std::string_view("") : lines_.back().text;
 }
 
 void Source::ForgetEarlierLines() {
     while (lines_.size() > 1) {
+        linesByPlace_.erase(lines_.front().text.data());
         lines_.pop_front();
-        ++linesForgotten_;
     }
 }
 
 Location Source::Locate(Place place) const {
-    const std::less_equal<> isNotAfter;  // orders addresses of unrelated storage too
-    std::size_t number = linesForgotten_;
-    for (const std::string& line : lines_) {
-        ++number;
-        const char* const begin = line.data();
-        if (isNotAfter(begin, place) && isNotAfter(place, begin + line.size())) {
-            return {number, static_cast<std::size_t>(place - begin), line};
-        }
-    }
-    return {number, 0, CurrentLine()};
+    const auto after = linesByPlace_.upper_bound(place);
+    if (after == linesByPlace_.begin()) return {0, 0, {}};
+    const Line& line = *std::prev(after)->second;
+    return {line.number, static_cast<std::size_t>(place - line.text.data()), line.text};
 }
 
 Source::Reader LinesOf(std::string text) {

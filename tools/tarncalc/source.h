@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <deque>
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -41,9 +42,14 @@ class Source {
     Location Locate(Place place) const;
 
   private:
+    struct Line {
+        std::size_t number;
+        std::string text;
+    };
+
     Reader reader_;
-    std::deque<std::string> lines_;  // one that grows at its ends leaves its elements in place
-    std::size_t linesForgotten_ = 0;
+    std::deque<Line> lines_;  // growing at its end leaves the others in place
+    std::map<Place, const Line*, std::less<>> linesByPlace_;  // by where they begin
 };
 
 /** The lines of a text. */
