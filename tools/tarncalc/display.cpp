@@ -32,6 +32,7 @@ class Writer {
   public:
     Writer(const TaskCall& call, Context& context)
         : row_(*call.row),
+          place_(call.place),
           next_(call.arguments.begin()),
           end_(call.arguments.end()),
           context_(context) {}
@@ -40,7 +41,7 @@ class Writer {
         while (next_ != end_) {
             const std::optional<Expression>& argument = *next_++;
             if (!argument) {
-                Append(" ", nullptr);
+                Append(" ");
             } else if (const Literal* const format = FormatOf(*argument)) {
                 AppendFormat(*format);
             } else {
@@ -58,16 +59,17 @@ class Writer {
         const std::string text =
             value.IsReal() ? tarn_ConvertToStringR("%#g", value.Real())
                            : TextOf(Conversion{{}, row_.letter, false, {}, {}}, std::move(value));
-        Append(text, argument.tree.back().place);
+        Append(text);
     }
 
     void AppendFormat(const Literal& literal) {
         bool isCut = false;
         const Value value(literal, isCut);
+        if (isCut) context_.cutLiterals.push_back(literal.spelling);
         const std::string format = tarn_ConvertToString(value.Width(), value.Words(), 0);
         for (std::size_t at = 0; at < format.size();) {
             const std::size_t percent = std::min(format.find('%', at), format.size());
-            Append(std::string_view(format).substr(at, percent - at), literal.GetPlace());
+            Append(std::string_view(format).substr(at, percent - at));
             at = percent;
             if (at == format.size()) return;
             at += AppendConversion(format, at, literal.GetPlace());
@@ -77,7 +79,7 @@ class Writer {
     /** Returns the count of the conversion's characters. */
     std::size_t AppendConversion(std::string_view format, std::size_t position, Place place) {
         if (format.substr(position).starts_with("%%")) {
-            Append("%", place);
+            Append("%");
             return 2;
         }
         const std::optional<Conversion> conversion = ConversionAt(format, position);
@@ -89,20 +91,20 @@ class Writer {
         if (next_ == end_ || !*next_) throw InputError(place, name + " has no argument");
         const Expression& argument = **next_++;
         Value value = Evaluate(argument, context_);
-        const Place argumentPlace = argument.tree.back().place;
         if (!CanShow(*conversion, value)) {
-            throw InputError(argumentPlace, name + " can't show a real");
+            throw InputError(argument.tree.back().place, name + " can't show a real");
         }
-        Append(TextOf(*conversion, std::move(value)), argumentPlace);
+        Append(TextOf(*conversion, std::move(value)));
         return conversion->spelling.size();
     }
 
-    void Append(std::string_view text, Place place) {
+    void Append(std::string_view text) {
         text_ += text;
-        if (text_.size() > kMaxCharacters) throw InputError(place, "the text gets too long");
+        if (text_.size() > kMaxCharacters) throw InputError(place_, "this writes too much text");
     }
 
     const TaskRow& row_;
+    Place place_;
     std::vector<std::optional<Expression>>::const_iterator next_, end_;
     Context& context_;
     std::string text_;

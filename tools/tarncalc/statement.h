@@ -43,6 +43,7 @@ struct TaskRow;
 
 /** A call of a task; an argument that is left out stands for a space. */
 struct TaskCall {
+    Place place;
     const TaskRow* row;
     std::vector<std::optional<Expression>> arguments;
 };

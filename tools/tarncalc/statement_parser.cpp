@@ -53,7 +53,7 @@ Statement StatementParser::ParseStatement() {
 }
 
 TaskCall StatementParser::ParseTaskCall(const TaskRow& row) {
-    TaskCall call{&row, {}};
+    TaskCall call{tokens_.Current().place, &row, {}};
     tokens_.Advance();
     if (!tokens_.Current().Is("(")) return call;
     tokens_.Open();
