@@ -52,7 +52,8 @@ enclose one.
   a = 5, a[3] = 1, m[7][3:0] = 2, {a, b[1:0]} = 3
                assign: the right side is calculated with the bits of the left
                one where those are more than its own, then cut to them; a real
-               is rounded, halves away from zero
+               is rounded, halves away from zero; all indices are taken before
+               anything is assigned
   $display("%d and %h", a, b), $write(a, " ", b)
                write text, with and without a new line; see below
 Every bit of a variable is x until it is assigned, a real is 0. All variables together can

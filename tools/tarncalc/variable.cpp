@@ -45,8 +45,9 @@ Variable& Scope::Declare(Place place, std::string_view name, const Shape& shape)
     if (bytes > kMaxBytes - byteCount_) {
         throw InputError(place, "the variables need too much storage");
     }
+    Variable& variable = variables_.try_emplace(std::string(name), shape).first->second;
     byteCount_ += bytes;
-    return variables_.try_emplace(std::string(name), shape).first->second;
+    return variable;
 }
 
 }  // namespace tarncalc
