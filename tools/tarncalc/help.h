@@ -56,8 +56,8 @@ enclose one.
                anything is assigned
   $display("%d and %h", a, b), $write(a, " ", b)
                write text, with and without a new line; see below
-Every bit of a variable is x until it is assigned, a real is 0. All variables together can
-have 2000000000 bits, words of memories counting as whole bytes.
+Every bit of a variable is x until it is assigned, a real is 0. All variables
+together can have 2000000000 bits, words of memories counting as whole bytes.
 
   tarncalc "reg [7:0] a = 9'h1f0; a"  8'hf0
   tarncalc "reg [7:0] a = 5; a[6:4] = 3; {a, a[5:4]}"  10'h0d7
@@ -152,8 +152,8 @@ $displayh, and $write likewise, write vectors in another base. In a string
                value of its type; %0d takes as little room as it needs, %8d at
                least eight characters, %08d the same filled with zeros
   %b %o %h %x  are all its digits; %0b as few as it needs, %8b at least eight
-  %c %s        are its low 8 bits, and all its bits, as characters; %s has blanks
-               for zeros, %0s and %8s leave them out
+  %c %s        are its low 8 bits, and all its bits, as characters; %s has a
+               blank for each zero, %0s and %8s leave them out
   %t           is like %20d
   %e %f %g     are those of C, %10.3f too; vectors are converted
   %%           is a percent sign
