@@ -17,8 +17,8 @@ const Ladder kAtOnce = {{64, kWidest, kFloor, 3.5}};
 }  // namespace
 
 std::vector<Operation> CompareOperations() {
-    // Up to 128 bits the peer, behind a call with one argument inside this program, takes little more
-    // or even less time than the floor; the ratio is printed, but is no limit.
+    // Up to 128 bits the peer, behind a call with one argument inside this program, takes little
+    // more or even less time than the floor; the ratio is printed, but is no limit.
     const Ladder againstSystemc = WithTail(WithTail(kReadAll, {{1, 128, SystemcEqual(), kNoLimit}}),
                                            NoSlowerThan(SystemcEqual(), 512));
     return {

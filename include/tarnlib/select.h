@@ -115,8 +115,8 @@ TARNLIB_API void tarn_Concatenate(int span, VectorWord* destination, int operand
 
 /** Places an operand that is laid out as its destination is: its bit k goes to bit k of the word at
  *  `destination`. Its bits below the place are 0.
- *  widths    the span counts the bits from bit 0 of that word to the top of the operand, no further:
- *            the operand has N(span) words.
+ *  widths    the span counts the bits from bit 0 of that word to the top of the operand, and no
+ *            further: the operand has N(span) words.
  *  unknown   X and Z bits are placed as they are.
  *  top word  copied whole: clean storage is expected.
  *  writes    exactly N(span) words; none for a span below 1. The operand is ORed into the first
