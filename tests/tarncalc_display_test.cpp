@@ -43,13 +43,14 @@ const Sum kFunctions[] = {
       "$itor(4'shf)", "$bitstoreal(64'h3ff8_0000_0000_0000)", "$bitstoreal($realtobits(-0.1))"},
      "32'sd0\n32'sd4\n32'sd8\n32'sd65\n32'sd0\n-32'sd2\n32'sd5\n-5.0\n-1.0\n-1.0\n1.5\n-0.1\n"},
     {{"$realtobits(1)", "$realtobits(-0.1) >> 32"}, "64'h3ff0000000000000\n64'h00000000bfb99999\n"},
-    {{"$ln(1)",      "$log10(1000)", "$exp(0)",      "$sqrt(2)",  "$pow(2, 10)",     "$floor(-2.5)",
-      "$ceil(-2.5)", "$sin(0.0)",    "$cos(0)",      "$tan(0)",   "$asin(1)",        "$acos(1)",
-      "$atan(1)",    "$atan2(1, 2)", "$hypot(3, 4)", "$sinh(0)",  "$cosh(0)",        "$tanh(0)",
-      "$asinh(0)",   "$acosh(1)",    "$atanh(0)",    "$atanh(2)", "$sqrt(4'shf) < 0"},
+    {{"$ln(1)",       "$log10(1000)", "$exp(0)",   "$sqrt(2)",        "$pow(2, 10)",
+      "$floor(-2.5)", "$ceil(-2.5)",  "$sin(0.0)", "$cos(0)",         "$tan(0)",
+      "$asin(1)",     "$acos(1)",     "$atan(1)",  "$atan2(1, 2)",    "$hypot(3, 4)",
+      "$sinh(0)",     "$cosh(0)",     "$tanh(0)",  "$asinh(0)",       "$acosh(1)",
+      "$atanh(0)",    "$atanh(2)",    "$sqrt(-1)", "$sqrt(4'shf) < 0"},
      "0.0\n3.0\n1.0\n1.4142135623730951\n1024.0\n-3.0\n-2.0\n0.0\n1.0\n0.0\n1.5707963267948966\n0."
      "0\n"
-     "0.7853981633974483\n0.4636476090008061\n5.0\n0.0\n1.0\n0.0\n0.0\n0.0\n0.0\ninf\n1'h0\n"},
+     "0.7853981633974483\n0.4636476090008061\n5.0\n0.0\n1.0\n0.0\n0.0\n0.0\n0.0\ninf\nnan\n1'h0\n"},
 };
 
 const Sum kTexts[] = {

@@ -71,10 +71,6 @@ std::string Characters(const Conversion& conversion, Value value) {
     return std::string(width - std::min(width, text.size()), ' ') + text;
 }
 
-std::string Real(const Conversion& conversion, double value) {
-    return tarn_ConvertToStringR(std::string(conversion.spelling).c_str(), value);
-}
-
 }  // namespace
 
 std::optional<Conversion> ConversionAt(std::string_view format, std::size_t position) {
@@ -103,6 +99,10 @@ bool CanShow(const Conversion& conversion, const Value& value) {
     return !value.IsReal() || kRealLetters.find(conversion.letter) != std::string_view::npos;
 }
 
+std::string RealText(const std::string& format, double value) {
+    return tarn_ConvertToStringR(format.c_str(), std::isnan(value) ? std::fabs(value) : value);
+}
+
 std::string TextOf(const Conversion& conversion, Value value) {
     switch (conversion.letter) {
         case 'd':
@@ -114,7 +114,7 @@ std::string TextOf(const Conversion& conversion, Value value) {
         case 'e':
         case 'f':
         case 'g':
-            return Real(conversion, value.Real());
+            return RealText(std::string(conversion.spelling), value.Real());
         default:
             return Digits(conversion, value);
     }

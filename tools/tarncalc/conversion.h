@@ -26,6 +26,9 @@ std::optional<Conversion> ConversionAt(std::string_view format, std::size_t posi
 /** Whether a conversion can show a real or a vector. Those for reals show vectors too. */
 bool CanShow(const Conversion& conversion, const Value& value);
 
+/** A real by a format of C. What is no number has no sign, whatever the machine gives it. */
+std::string RealText(const std::string& format, double value);
+
 /** The text of a value that the conversion can show. */
 std::string TextOf(const Conversion& conversion, Value value);
 

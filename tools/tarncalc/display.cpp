@@ -57,7 +57,7 @@ class Writer {
         Value value = Evaluate(argument, context_);
         // The form of reals outside a format isn't standardised; this one keeps trailing zeros.
         const std::string text =
-            value.IsReal() ? tarn_ConvertToStringR("%#g", value.Real())
+            value.IsReal() ? RealText("%#g", value.Real())
                            : TextOf(Conversion{{}, row_.letter, false, {}, {}}, std::move(value));
         Append(text);
     }

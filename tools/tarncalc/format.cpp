@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "conversion.h"
+
 namespace tarncalc {
 
 namespace {
@@ -43,7 +45,7 @@ std::string Assemble(const Value& value, const Radix& radix, std::string_view di
 std::string FormatReal(double value) {
     std::string text;
     for (const char* const format : {"%.15g", "%.16g", "%.17g"}) {
-        text = tarn_ConvertToStringR(format, value);
+        text = RealText(format, value);
         double back = 0;
         tarn_CreateReal(text.c_str(), &back);
         if (back == value) break;

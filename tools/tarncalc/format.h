@@ -12,7 +12,7 @@ namespace tarncalc {
 /** The value as a Verilog literal that reads back as the same value. A decimal value below zero is
  *  a minus and the literal of the magnitude. Where digits of the radix can't show which bits are
  *  x or z, the literal is binary. Infinite reals and those that are no number have no literal: they
- *  are "inf", "-inf", "nan" and "-nan". */
+ *  are "inf", "-inf" and "nan". */
 std::string FormatValue(const Value& value, const Radix& radix);
 
 }  // namespace tarncalc
