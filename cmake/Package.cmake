@@ -12,7 +12,7 @@ install(EXPORT tarnlibTargets NAMESPACE tarnlib:: DESTINATION "${TARNLIB_PACKAGE
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/tarnlibConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/tarnlibConfig.cmake" INSTALL_DESTINATION "${TARNLIB_PACKAGE_DIR}")
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/tarnlibConfigVersion.cmake"
-    COMPATIBILITY SameMinorVersion)
+    COMPATIBILITY SameMajorVersion)
 install(FILES
     "${PROJECT_BINARY_DIR}/tarnlibConfig.cmake"
     "${PROJECT_BINARY_DIR}/tarnlibConfigVersion.cmake"
