@@ -140,8 +140,8 @@ module `CHECKS #(parameter RW = 8, AW = 8, BW = 8);
             common.comparisons = common.comparisons + 1;
             if (target !== expected_target) begin
                 common.differences = common.differences + 1;
-                $display("%m %0s: a = %0d'b%b, value = %b, b = %b, low = %0d, width = %0d", name, AW,
-                         a, value, b, low, width);
+                $display("%m %0s: a = %0d'b%b, value = %b, b = %b, low = %0d, width = %0d",
+                         name, AW, a, value, b, low, width);
                 $display("    tarnlib   %b", target);
                 $display("    simulator %b", expected_target);
             end
