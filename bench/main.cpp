@@ -22,15 +22,28 @@ constexpr const char* kSmoke[] = {"--benchmark_repetitions=1", "--benchmark_min_
 void PrintHelp() {
     std::puts(
         "tarnlib_bench: tarnlib and its peers on the same values in one run\n\n"
-        "  --smoke   run everything once and check the results only\n\n"
+        "  --smoke      run everything once and check the results only\n"
+        "  --rows=FILE  also write the rows to a file, values behind tabs\n\n"
         "and the options of Google Benchmark, which override what tarnlib_bench sets:\n");
     benchmark::PrintDefaultHelp();
 }
 
-// Takes the option of our own out of the arguments.
+// The two take the options of our own out of the arguments.
 bool TakeSmoke(std::vector<char*>& arguments) {
     const auto isSmoke = [](std::string_view argument) { return argument == "--smoke"; };
     return std::erase_if(arguments, isSmoke) != 0;
+}
+
+// The file's path; null without that option.
+const char* TakeRows(std::vector<char*>& arguments) {
+    constexpr std::string_view kOption = "--rows=";
+    const char* path = nullptr;
+    std::erase_if(arguments, [&](const char* argument) {
+        if (!std::string_view(argument).starts_with(kOption)) return false;
+        path = argument + kOption.size();
+        return true;
+    });
+    return path;
 }
 
 // The defaults stand in front of the caller's arguments, of which the last one counts.
@@ -50,6 +63,7 @@ void InsertDefaults(bool isSmoke, std::vector<char*>& arguments) {
 int main(int argumentCount, char** argumentTexts) {
     std::vector<char*> arguments(argumentTexts, argumentTexts + argumentCount);
     const bool isSmoke = TakeSmoke(arguments);
+    const char* rowsPath = TakeRows(arguments);
     InsertDefaults(isSmoke, arguments);
     int count = static_cast<int>(arguments.size());
     benchmark::Initialize(&count, arguments.data(), PrintHelp);
@@ -65,6 +79,10 @@ int main(int argumentCount, char** argumentTexts) {
         table.PrintRows();
     }
     table.PrintFailures();
+    if (rowsPath != nullptr && !table.WriteRows(rowsPath)) {
+        std::fprintf(stderr, "tarnlib_bench: cannot write %s\n", rowsPath);
+        return EXIT_FAILURE;
+    }
     benchmark::Shutdown();
     return ran == 0 || table.HasFailures() ? EXIT_FAILURE : EXIT_SUCCESS;
 }

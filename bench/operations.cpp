@@ -1,6 +1,5 @@
 #include "operations.h"
 
-#include <iterator>
 #include <utility>
 
 #include "families.h"
@@ -9,15 +8,21 @@ namespace tarn::bench {
 namespace {
 
 std::vector<Operation> MakeOperations() {
-    constexpr std::vector<Operation> (*kFamilies[])() = {
-        VectorOperations, ArithOperations,  LogicOperations, CompareOperations, SelectOperations,
-        AssignOperations, MemoryOperations, ShiftOperations, RealOperations,    TextOperations,
+    constexpr struct {
+        const char* name;
+        std::vector<Operation> (*make)();
+    } kFamilies[] = {
+        {"vector", VectorOperations},   {"arith", ArithOperations},   {"logic", LogicOperations},
+        {"compare", CompareOperations}, {"select", SelectOperations}, {"assign", AssignOperations},
+        {"memory", MemoryOperations},   {"shift", ShiftOperations},   {"real", RealOperations},
+        {"text", TextOperations},
     };
     std::vector<Operation> operations;
-    for (const auto family : kFamilies) {
-        std::vector<Operation> part = family();
-        operations.insert(operations.end(), std::make_move_iterator(part.begin()),
-                          std::make_move_iterator(part.end()));
+    for (const auto& family : kFamilies) {
+        for (Operation& operation : family.make()) {
+            operation.family = family.name;
+            operations.push_back(std::move(operation));
+        }
     }
     return operations;
 }

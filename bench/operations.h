@@ -32,6 +32,7 @@ struct Operation {
     Contestant ours;
     Contestant oracle;  // its outcome is the right one; often the peer of the wide rows
     std::vector<Versus> ladder;
+    const char* family = "";  // named by the list of families
 };
 
 const std::vector<Operation>& Operations();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <fstream>
 
 namespace tarn::bench {
 namespace {
@@ -15,11 +16,22 @@ void PrintNumber(int columns, int decimals, std::optional<double> number) {
     }
 }
 
+// As Linux calls it.
+std::string ProcessorName() {
+    std::ifstream info("/proc/cpuinfo");
+    std::string line;
+    while (std::getline(info, line)) {
+        if (line.starts_with("model name")) return line.substr(line.find(':') + 2);
+    }
+    return "a processor";
+}
+
 }  // namespace
 
 bool RatioTable::ReportContext(const Context& context) {
+    megahertz_ = context.cpu_info.cycles_per_second / 1e6;
     std::printf("%d processors at %.0f MHz; times are the least of all repetitions\n",
-                context.cpu_info.num_cpus, context.cpu_info.cycles_per_second / 1e6);
+                context.cpu_info.num_cpus, megahertz_);
     std::fflush(stdout);
     return true;
 }
@@ -84,6 +96,23 @@ void RatioTable::PrintRows() const {
         before = &row;
     }
     std::printf("%d limits missed\n", missed);
+}
+
+bool RatioTable::WriteRows(const char* path) const {
+    std::FILE* file = std::fopen(path, "w");
+    if (file == nullptr) return false;
+    std::fprintf(file, "# %s, at %.0f MHz\n", ProcessorName().c_str(), megahertz_);
+    std::fprintf(file, "# family\toperation\tbits\ttarnlib ns\tpeer\tpeer ns\tlimit\n");
+    for (const Row& row : rows_) {
+        const auto ours = TimeOf(row, row.Ours());
+        const auto peer = TimeOf(row, row.Peer());
+        if (!ours || !peer) continue;
+        std::fprintf(file, "%s\t%s\t%d\t%.4g\t%s\t%.4g\t%g\n", row.Of().family,
+                     row.Of().name.c_str(), row.Width(), *ours, row.Peer().name, *peer,
+                     row.Limit());
+    }
+    const bool isWritten = std::ferror(file) == 0;
+    return std::fclose(file) == 0 && isWritten;
 }
 
 void RatioTable::PrintFailures() const {

@@ -21,6 +21,8 @@ class RatioTable : public benchmark::BenchmarkReporter {
     void ReportRuns(const std::vector<Run>& runs) override;
 
     void PrintRows() const;
+    // The rows as values behind tabs, for programs to read; returns whether they could be written.
+    bool WriteRows(const char* path) const;
     void PrintFailures() const;
 
     std::size_t BenchmarkCount() const { return best_.size(); }
@@ -37,6 +39,7 @@ class RatioTable : public benchmark::BenchmarkReporter {
     const std::vector<Row>& rows_;
     std::map<std::string, double> best_;
     std::set<std::string> failures_;
+    double megahertz_ = 0;
 };
 
 }  // namespace tarn::bench
