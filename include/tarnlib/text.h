@@ -44,8 +44,8 @@ TARNLIB_API char* tarn_CopyNToGlobalBuffer(const char* text, unsigned count);
  * Vectors as binary, octal and hexadecimal digits
  *----------------------------------------------------------------------------------------------*/
 
-/** The digits of a vector, most significant first, in base 2, 8 or 16 (the display conversions %%b,
- *  %%o and %%h).
+/** The digits of a vector, most significant first, in base 2, 8 or 16 (the display conversions %b,
+ *  %o and %h).
  *  widths    bits, at least 1; a width below 1 returns an empty text. minDigits chooses the digits:
  *            negative all digits of the width, leading zeros included; 0 as few as the value needs,
  *            at least one; positive at least so many, padded with '0' (whatever the top digit is).
@@ -76,7 +76,7 @@ TARNLIB_API char* tarn_ConvertToHex0(int code);
  * Vectors as decimal digits, and reals
  *----------------------------------------------------------------------------------------------*/
 
-/** The decimal digits of a vector, right-aligned in a field (the display conversion %%d).
+/** The decimal digits of a vector, right-aligned in a field (the display conversion %d).
  *  widths    bits, at least 1; a width below 1 returns an empty text. minDigits chooses the field:
  *            negative the digits that the width can need (and, Signed, one for the sign); 0 as few
  *            characters as the value needs; positive at least so many. The field is padded on the
@@ -129,7 +129,7 @@ TARNLIB_API char* tarn_ConvertToStringR(const char* format, double value);
  * Vectors as characters
  *----------------------------------------------------------------------------------------------*/
 
-/** The low 8 bits of a vector as one character (the display conversion %%c).
+/** The low 8 bits of a vector as one character (the display conversion %c).
  *  unknown   X and Z bits read as 0.
  *  returns   the start of the text buffer. A character 0 becomes ' ' where spaceForNul is not 0,
  *            and an empty text otherwise.
@@ -143,7 +143,7 @@ TARNLIB_API char* tarn_ConvertToChar0(int code, int spaceForNul);
 /** @copydoc tarn_ConvertToChar0 */
 TARNLIB_API char* tarn_ConvertToString0(int code, int spaceForNul);
 
-/** A vector as 8-bit characters, the most significant first (the display conversion %%s).
+/** A vector as 8-bit characters, the most significant first (the display conversion %s).
  *  widths    bits, at least 1; a width below 1 returns an empty text.
  *  unknown   X and Z bits read as 0.
  *  top word  the byte that holds the top bit is read whole, bits above the width included.
