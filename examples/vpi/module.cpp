@@ -4,7 +4,7 @@
 //
 // The first argument is the variable that takes the result; the others are any expressions.
 // operations.h lists the tasks, shapes.h tells what each kind of task does with its arguments.
-#include <stdexcept>
+#include <exception>
 #include <string>
 
 #include "operations.h"
@@ -50,7 +50,7 @@ PLI_INT32 Call(PLI_BYTE8* userData) {
     const Operation& operation = RunningOperation(userData);
     try {
         std::visit([&](const auto& shape) { Run(shape, arguments); }, operation.shape);
-    } catch (const std::invalid_argument& error) {
+    } catch (const std::exception& error) {
         Refuse(operation, error.what());
     }
     return 0;

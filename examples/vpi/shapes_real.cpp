@@ -1,4 +1,8 @@
 // The shapes of operations on reals.
+#include <regex>
+#include <stdexcept>
+#include <string>
+
 #include "shapes.h"
 
 namespace tarnvpi {
@@ -36,7 +40,14 @@ void Run(const IntegerOf& shape, const Arguments& arguments) {
 }
 
 void Run(const RealText& shape, const Arguments& arguments) {
-    WriteText(arguments[0], shape.convert(ReadText(arguments[1]).c_str(), ReadReal(arguments[2])));
+    // The library hands the format to the C library, which believes what it says.
+    static const std::regex kOneReal(
+        "(?:[^%]|%%)*%[-+ #0]*[0-9]*(?:[.][0-9]*)?[aAeEfFgG](?:[^%]|%%)*");
+    const std::string format = ReadText(arguments[1]);
+    if (!std::regex_match(format, kOneReal)) {
+        throw std::invalid_argument("a format has one conversion, for a real");
+    }
+    WriteText(arguments[0], shape.convert(format.c_str(), ReadReal(arguments[2])));
 }
 
 void Run(const ParseReal& shape, const Arguments& arguments) {

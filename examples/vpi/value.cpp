@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <stdexcept>
 
 namespace tarnvpi {
 
@@ -19,7 +20,25 @@ s_vpi_value Read(vpiHandle object, PLI_INT32 format) {
     return value;
 }
 
+/** Not every object takes a value from outside, nor does every simulator say so. */
+bool IsVariable(vpiHandle object) {
+    switch (vpi_get(vpiType, object)) {
+        case vpiConstant:
+        case vpiMemory:
+        case vpiModule:
+        case vpiNet:
+        case vpiParameter:
+            return false;
+        default:
+            return true;
+    }
+}
+
 void Write(vpiHandle variable, s_vpi_value& value) {
+    const bool isReal = vpi_get(vpiType, variable) == vpiRealVar;
+    if (!IsVariable(variable) || (isReal && value.format != vpiRealVal)) {
+        throw std::invalid_argument("the result needs a variable of its kind");
+    }
     vpi_put_value(variable, &value, nullptr, vpiNoDelay);
 }
 
@@ -57,6 +76,7 @@ bool IsSigned(vpiHandle object) {
 Vector ReadVector(vpiHandle object, bool isSigned) {
     Vector result(WidthOf(object));
     const s_vpi_value value = Read(object, vpiVectorVal);
+    if (value.value.vector == nullptr) throw std::invalid_argument("an operand is no vector");
     // The simulator lends its words until the next call, and leaves those above the width open.
     std::memcpy(result.Words(), value.value.vector,
                 static_cast<std::size_t>(result.WordCount()) * sizeof(VectorWord));
@@ -73,7 +93,9 @@ double ReadReal(vpiHandle object) {
 }
 
 std::string ReadText(vpiHandle object) {
-    return Read(object, vpiStringVal).value.str;
+    const s_vpi_value value = Read(object, vpiStringVal);
+    if (value.value.str == nullptr) throw std::invalid_argument("an operand is no text");
+    return value.value.str;
 }
 
 void WriteVector(vpiHandle variable, const Vector& source) {
@@ -88,12 +110,6 @@ void WriteVector(vpiHandle variable, const Vector& source) {
 void WriteCode(vpiHandle variable, LogicCode code) {
     Vector result(WidthOf(variable));
     tarn_UnsignedCopy(result.Width(), result.Words(), 1, &tarn_LogicVectorLUT[code]);
-    WriteVector(variable, result);
-}
-
-void WriteInteger(vpiHandle variable, int number) {
-    Vector result(WidthOf(variable));
-    tarn_SignedConvert(result.Width(), result.Words(), number);
     WriteVector(variable, result);
 }
 

@@ -33,6 +33,8 @@ class Vector {
     std::vector<VectorWord> words_;
 };
 
+// What follows throws std::invalid_argument where an argument has no such value or takes none.
+
 int WidthOf(vpiHandle object);
 bool IsSigned(vpiHandle object);
 
@@ -49,7 +51,6 @@ std::string ReadText(vpiHandle object);
 /** Assignments to a variable. A value as wide as the variable or wider is cut to its width. */
 void WriteVector(vpiHandle variable, const Vector& value);
 void WriteCode(vpiHandle variable, LogicCode code);
-void WriteInteger(vpiHandle variable, int value);
 void WriteReal(vpiHandle variable, double value);
 void WriteText(vpiHandle variable, const std::string& text);
 
