@@ -102,6 +102,7 @@ Limb DivideByReciprocal(Limb* quotient, Limb* a, std::size_t aCount, const Limb*
     const Limb high = Compare(window, d, dCount) >= 0 ? 1 : 0;
     if (high != 0) SubtractN(window, window, d, dCount);
     std::size_t left = aCount - dCount;
+    if (left == 0) return high;
     const std::size_t block = BlockCount(left, dCount);
     Limb* const reciprocal = scratch;
     scratch += block;
