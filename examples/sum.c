@@ -1,4 +1,5 @@
-/* What generated code does for `sum = a + b; $display("%h", sum);` with a and b of 40 bits. */
+/* What generated code does for sum = a + b; $display("%h", sum);
+ * with a and b of 40 bits. */
 #include <stdio.h>
 
 #include <tarnlib.h>
