@@ -1,5 +1,5 @@
-# What `cmake --install` lays out, in three components: the library; what development
-# against it needs; the calculator.
+# What `cmake --install` lays out, in three components, of which Debian.cmake makes a package each:
+# the library; what development against it needs; the calculator.
 include(CMakePackageConfigHelpers)
 
 set(TARNLIB_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/tarnlib")
@@ -63,4 +63,8 @@ tarnlib_install_manual(3 tarnlib development)
 if(TARGET tarncalc)
     tarnlib_install_manual(1 tarncalc tarncalc)
     install(TARGETS tarncalc RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tarncalc)
+endif()
+
+if(PROJECT_IS_TOP_LEVEL AND TARGET tarncalc)
+    include(Debian)
 endif()
