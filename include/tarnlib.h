@@ -12,9 +12,14 @@
  *  - Functions that write a vector take their arguments result first: result width, result address,
  *    then each operand's width and address.
  *  - The bits of the top word above the width hold the extension of the value: zeros for an
- *    unsigned vector, copies of the top bit (of aval and of bval, each for itself) for a signed
- *    one. Arithmetic and copies rely on it and do not restore it in their results; the caller does,
- *    where a result goes on as an operand.
+ *    unsigned vector (clean storage), copies of the top bit, of aval and of bval each for itself,
+ *    for a signed one (signed storage). Arithmetic and copies rely on it and do not restore it in
+ *    their results; the caller does, where a result goes on as an operand. Other bits there are a
+ *    broken duty only where a comment requires clean or signed storage; elsewhere they are what
+ *    "top word" says.
+ *  - An address is never null, unless a comment says that it may be, and is aligned as its type
+ *    asks: a vector's to 4 bytes, a memory word's to any. The address of a vector without words, of
+ *    a width below 1, is not used.
  *  - No function reports an error. What can't be computed is all X: every word of the result has
  *    aval = bval = 0xFFFFFFFF, the bits above the width included.
  *  - The library is not re-entrant: the scratch registers and the text buffer are single objects.

@@ -10,8 +10,9 @@
 TARNLIB_BEGIN_C
 
 /** A field of bits that lies inside its vector is written: target[p + width - 1 : p] = value.
- *  widths    `width` bits are written, from bit `offset` of the word at `target` upward. For the
- *            field at bit p of a vector v pass &v[p >> 5] and p & 31. offset is 0 to 31.
+ *  widths    `width` bits, at least 1, are written, from bit `offset` of the word at `target`
+ *            upward. For the field at bit p of a vector v pass &v[p >> 5] and p & 31. offset is 0
+ *            to 31.
  *  unknown   X and Z bits are written as they are.
  *  top word  bits of the value above the field's width are not used; all bits of the target below
  *            and above the field keep their values.
@@ -19,8 +20,8 @@ TARNLIB_BEGIN_C
  *            value that hold bits of the field are read.
  *  returns   NotIdentical: 1 if a bit of the field changed, in aval or in bval, else 0.
  *  aliasing  value may be the target or the vector that the field lies in, and is then read as it
- *            was before the call: it may begin at or below the word at `target`. Other overlapping
- *            storage is not supported.
+ *            was before the call: it may begin at the word at `target` or at one below it. Other
+ *            overlapping storage is not supported.
  *  source    IEEE 1364-2005, 5.2.1, 9.2
  *  example   0xff at offset 4 and width 8 turns a word {0, 0} into {0xff0, 0}. */
 TARNLIB_API void tarn_PartselectAssign(VectorWord* target, const VectorWord* value, unsigned offset,
@@ -31,9 +32,9 @@ TARNLIB_API int tarn_NotIdenticalPartselectAssign(VectorWord* target, const Vect
 
 /** A field of bits that may reach past either end of its vector is written, as far as it lies
  *  inside: target[index + width - 1 : index] = value.
- *  widths    bits. The field's lowest bit has the number `index` in the target, which may be
- *            negative. Bits of the value that would land below bit 0 or at targetWidth and above
- *            are dropped.
+ *  widths    bits, at least 1. The field's lowest bit has the number `index` in the target, which
+ *            may be negative. Bits of the value that would land below bit 0 or at targetWidth and
+ *            above are dropped.
  *  unknown   X and Z bits are written as they are.
  *  top word  bits of the value above the field's width are not used; all bits of the target outside
  *            the field, those above targetWidth included, keep their values.

@@ -6,7 +6,8 @@
  *  no header and no padding, and any address will do. The bits of the last byte of each half above
  *  the width are the spare bits. No function reads or writes a byte outside the 2 * N.
  *
- *  Memory words and vectors are never the same storage. */
+ *  A memory word never overlaps a vector of the same call, tarn_VectorRegister among them where a
+ *  function uses it. */
 #ifndef TARNLIB_MEMORY_H
 #define TARNLIB_MEMORY_H
 
@@ -15,9 +16,9 @@
 TARNLIB_BEGIN_C
 
 /** A memory word as a vector: result = memory word.
- *  widths    bits, any. A narrower memory word is extended (Signed: by its top bit, aval and bval
- *            each by its own; Unsigned: by zeros). Of a wider one the low words are unpacked.
- *            spareBits is -memoryWidth & 31.
+ *  widths    bits: resultWidth any, memoryWidth at least 1. A narrower memory word is extended
+ *            (Signed: by its top bit, aval and bval each by its own; Unsigned: by zeros). Of a
+ *            wider one the low words are unpacked. spareBits is -memoryWidth & 31.
  *  unknown   X and Z bits are unpacked as they are; a sign bit that is X or Z extends as X or Z.
  *  top word  the word that holds the memory word's top bit is extended above it; a word below that
  *            one is unpacked whole, bits above resultWidth included.
@@ -34,7 +35,7 @@ TARNLIB_API void tarn_SignedCopyMemoryValue(int resultWidth, VectorWord* result,
                                             const uint8_t* memory, int spareBits) TARNLIB_NOEXCEPT;
 
 /** A vector as a memory word: memory word = value.
- *  widths    bits; the value has memoryWidth bits as well.
+ *  widths    bits, at least 1; the value has memoryWidth bits as well.
  *  unknown   X and Z bits are packed as they are.
  *  top word  the spare bits take the bits that the value's top word holds there.
  *  writes    all bytes of the memory word; none for a width below 1.
@@ -48,7 +49,8 @@ TARNLIB_API int tarn_NotIdenticalMemoryWordAssign(int memoryWidth, uint8_t* memo
                                                   const VectorWord* value) TARNLIB_NOEXCEPT;
 
 /** A field of bits that lies inside its memory word, unsigned, as tarn_Partselect reads it.
- *  widths    `width` bits are read, from bit `low` (0 or more) of the memory word upward.
+ *  widths    bits, at least 1. `width` bits are read, from bit `low` (0 or more) of the memory
+ *            word upward.
  *  unknown   X and Z bits are read as they are.
  *  top word  clean: the bits of the result above the width are 0 in aval and bval.
  *  writes    exactly N(width) words; none where either width is below 1.
@@ -63,8 +65,8 @@ TARNLIB_API void tarn_MemoryWordPartselect(VectorWord* result, int memoryWidth,
 
 /** A field of bits that may reach past either end of its memory word, unsigned, as
  *  tarn_IndexedPartselect reads it.
- *  widths    `width` bits are read, from bit `index` of the memory word upward; index may be
- *            negative.
+ *  widths    bits, at least 1. `width` bits are read, from bit `index` of the memory word upward;
+ *            index may be negative.
  *  unknown   X and Z bits are read as they are; bits outside the memory word read as X.
  *  top word  clean: the bits of the result above the width are 0 in aval and bval.
  *  writes    exactly N(width) words; none where either width is below 1.
@@ -77,7 +79,8 @@ TARNLIB_API void tarn_MemoryWordIndexedPartselect(VectorWord* result, int memory
                                                   int width) TARNLIB_NOEXCEPT;
 
 /** A field of bits that lies inside its memory word is written, as by tarn_PartselectAssign.
- *  widths    `width` bits are written, from bit `low` (0 or more) of the memory word upward.
+ *  widths    bits, at least 1. `width` bits are written, from bit `low` (0 or more) of the memory
+ *            word upward.
  *  unknown   X and Z bits are written as they are.
  *  top word  bits of the value above the field's width are not used; spare bits become 0.
  *  writes    bytes of the memory word; none where either width is below 1.
@@ -97,8 +100,9 @@ TARNLIB_API int tarn_NotIdenticalMemoryWordPartselectAssign(int memoryWidth, uin
 
 /** A field of bits that may reach past either end of its memory word is written, as far as it lies
  *  inside, as by tarn_IndexedPartselectAssign.
- *  widths    `width` bits are written, from bit `index` of the memory word upward; index may be
- *            negative. Bits of the value that would land outside the memory word are dropped.
+ *  widths    bits, at least 1. `width` bits are written, from bit `index` of the memory word
+ *            upward; index may be negative. Bits of the value that would land outside the memory
+ *            word are dropped.
  *  unknown   X and Z bits are written as they are.
  *  top word  bits of the value above the field's width are not used; spare bits become 0.
  *  writes    bytes of the memory word; none for a field that lies wholly outside, or where either
@@ -117,9 +121,9 @@ TARNLIB_API int tarn_NotIdenticalMemoryWordIndexedPartselectAssign(int memoryWid
                                                                    int width) TARNLIB_NOEXCEPT;
 
 /** The same writes for memory words of at most 32 bits, at less cost and without the register.
- *  widths    memoryWidth is 1 to 32. PartselectAssign1: the field of `width` bits lies inside the
- *            memory word, from bit `low` upward. IndexedPartselectAssign1: bits of the value that
- *            would land outside the memory word are dropped.
+ *  widths    bits, at least 1; memoryWidth at most 32. PartselectAssign1: the field of `width` bits
+ *            lies inside the memory word, from bit `low` upward. IndexedPartselectAssign1: bits of
+ *            the value that would land outside the memory word are dropped.
  *  unknown   X and Z bits are written as they are.
  *  top word  bits of the value above the field's width are not used; spare bits become 0.
  *  writes    bytes of the memory word; none for a field that lies wholly outside, or where either

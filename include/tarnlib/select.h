@@ -13,8 +13,8 @@ TARNLIB_BEGIN_C
  *----------------------------------------------------------------------------------------------*/
 
 /** A field of bits that lies inside its vector: result = v[p + width - 1 : p], unsigned.
- *  widths    `width` bits are read, from bit `offset` of the word at `source` upward. For the field
- *            at bit p of a vector v pass &v[p >> 5] and p & 31. offset is 0 to 31.
+ *  widths    `width` bits, at least 1, are read, from bit `offset` of the word at `source` upward.
+ *            For the field at bit p of a vector v pass &v[p >> 5] and p & 31. offset is 0 to 31.
  *  unknown   X and Z bits are read as they are.
  *  top word  clean: the bits of the result above the width are 0 in aval and bval.
  *  writes    exactly N(width) words; none for a width below 1. Only source words that hold bits of
@@ -28,8 +28,9 @@ TARNLIB_API void tarn_Partselect(VectorWord* result, const VectorWord* source, u
                                  int width) TARNLIB_NOEXCEPT;
 
 /** A field of bits that lies inside its vector, sign-extended to another width.
- *  widths    `width` bits are read, from bit `offset` (0 to 31) of the word at `source` upward, as
- *            by tarn_Partselect. The result has the words of the wider of width and resultWidth.
+ *  widths    `width` bits, at least 1, are read, from bit `offset` (0 to 31) of the word at
+ *            `source` upward, as by tarn_Partselect. The result has the words of the wider of width
+ *            and resultWidth, which may be any.
  *  unknown   X and Z bits are read as they are; a sign bit that is X or Z extends as X or Z.
  *  top word  the bits of the result above the field copy the field's top bit, in aval and bval.
  *  writes    exactly N(width) words, or N(resultWidth) if that is more; none for a width below 1.
@@ -43,8 +44,8 @@ TARNLIB_API void tarn_SignedPartselect(int resultWidth, VectorWord* result,
                                        int width) TARNLIB_NOEXCEPT;
 
 /** A field of bits anywhere in or beside its vector: result = source[index +: width].
- *  widths    `width` bits are read, from bit `index` of the source upward. The index may be
- *            negative, or above the source.
+ *  widths    `width` bits, at least 1, are read, from bit `index` of the source upward. The index
+ *            may be negative, or above the source, whose width may be any.
  *  unknown   X and Z bits are read as they are; bits that the source does not have read as X.
  *  top word  the source's bits above its width are not used. The result is clean.
  *  writes    exactly N(width) words; none for a width below 1. Only source words that hold bits of
@@ -67,7 +68,8 @@ TARNLIB_API LogicCode tarn_BitValue(int sourceWidth, const VectorWord* source,
                                     int index) TARNLIB_NOEXCEPT;
 
 /** A run of X bits in a vector that is being put together from the low end upward.
- *  widths    `count` bits become X, from bit `base` (0 to 31) of the word at `word` upward.
+ *  widths    `count` bits, at least 1, become X, from bit `base` (0 to 31) of the word at `word`
+ *            upward.
  *  top word  the bits of the run's last word above the run become 0.
  *  writes    the words that the run reaches, N(base + count); none for a count below 1. The bits
  *            of the first word below base stay as they were.
@@ -79,7 +81,7 @@ TARNLIB_API void tarn_CleanBasedFillX(VectorWord* word, int count, int base) TAR
 /** Whether a vector is an index that a 32-bit integer can hold.
  *  widths    bits of the index vector, at least 1.
  *  unknown   any bval bit set in any word: 0.
- *  top word  counts whole: clean (Unsigned) or signed (Signed) storage is expected.
+ *  top word  counts whole: clean (Unsigned) or signed (Signed) storage is required.
  *  returns   1 where the index is known and lies in 0 to 2147483647; Signed with more than 32 bits,
  *            in -2147483648 to 2147483647, and with 32 bits or less, any known index. Else 0, and
  *            for a width below 1 without reading a word.
@@ -95,17 +97,19 @@ TARNLIB_API int tarn_UnsignedScanIndexOfSelect(int width, const VectorWord* inde
  *----------------------------------------------------------------------------------------------*/
 
 /** Places an operand at any bit of a vector that is being put together.
- *  widths    the operand's bit 0 goes to bit `offset` (0 to 31) of the word at `destination`. The
- *            span counts the bits from bit 0 of that word to the top of the placed operand, offset
- *            + operandWidth; it may be larger, up to the top of the whole destination.
+ *  widths    bits, at least 1. The operand's bit 0 goes to bit `offset` (0 to 31) of the word at
+ *            `destination`. The span counts the bits from bit 0 of that word to the top of the
+ *            placed operand, offset + operandWidth; it may be larger, up to the top of the whole
+ *            destination.
  *  unknown   X and Z bits are placed as they are.
  *  top word  the operand's is placed whole, as far as the words written reach: clean storage is
- *            expected, and then the bits above the operand become 0.
+ *            required, and then the bits above the operand become 0.
  *  writes    N(offset + operandWidth) words, or N(span) if that is less; none for a span or an
- *            operandWidth below 1. The operand is ORed into the first word, which the caller holds
- *            0 from the offset upward, and replaces the words above it. Of an operand that goes
- *            past a smaller span the words that begin at or above the span are not placed.
- *  aliasing  destination may be operand itself; other overlapping storage is not supported.
+ *            operandWidth below 1. The operand is ORed into the first word, in which the caller
+ *            holds 0 from the offset upward, and replaces the words above it. Of an operand that
+ *            goes past a smaller span the words that begin at or above the span are not placed.
+ *  aliasing  destination may be operand itself, and with offset 0 then stays as it is; other
+ *            overlapping storage is not supported.
  *  limits    may run in any thread.
  *  source    IEEE 1364-2005, 5.1.14
  *  example   an 8-bit a above a 40-bit b: b with tarn_ConcatenateShifted and span 40 at word 0,
@@ -115,14 +119,15 @@ TARNLIB_API void tarn_Concatenate(int span, VectorWord* destination, int operand
 
 /** Places an operand that is laid out as its destination is: its bit k goes to bit k of the word at
  *  `destination`. Its bits below the place are 0.
- *  widths    the span counts the bits from bit 0 of that word to the top of the operand, and no
- *            further: the operand has N(span) words.
+ *  widths    the span, at least 1, counts the bits from bit 0 of that word to the top of the
+ *            operand, and no further: the operand has N(span) words.
  *  unknown   X and Z bits are placed as they are.
- *  top word  copied whole: clean storage is expected.
+ *  top word  copied whole: clean storage is required.
  *  writes    exactly N(span) words; none for a span below 1. The operand is ORed into the first
- *            word, which the caller holds 0 wherever the operand is not, and replaces the words
- *            above it.
- *  aliasing  destination may be operand itself; other overlapping storage is not supported.
+ *            word, in which the caller holds 0 from the place upward, and replaces the words above
+ *            it.
+ *  aliasing  destination may be operand itself, and then stays as it is; other overlapping storage
+ *            is not supported.
  *  limits    may run in any thread.
  *  source    IEEE 1364-2005, 5.1.14 */
 TARNLIB_API void tarn_ConcatenateShifted(int span, VectorWord* destination,

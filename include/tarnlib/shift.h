@@ -47,7 +47,7 @@ TARNLIB_API void tarn_ArithmeticalShiftRight(int resultWidth, VectorWord* result
 /** Whether a vector is an amount that the shifts can take.
  *  widths    bits, at least 1.
  *  unknown   any bval bit set in any word: 3.
- *  top word  counts whole: clean storage is expected.
+ *  top word  counts whole: clean storage is required.
  *  returns   0: the amount is amount[0].aval; 1: it is known and 2 to the power 32 or more, past
  *            the width of any vector; 3: it is unknown, and the caller makes the shift all X. 0
  *            for a width below 1, without reading a word.

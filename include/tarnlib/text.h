@@ -64,7 +64,7 @@ TARNLIB_API char* tarn_ConvertToOct(int width, const VectorWord* value, int minD
 TARNLIB_API char* tarn_ConvertToHex(int width, const VectorWord* value, int minDigits);
 
 /** The digit of a one-bit value given as a LogicCode: "0", "1", "z" or "x".
- *  unknown   a code outside 0 to 5 gives "x".
+ *  unknown   the code is 0 to 5; any other gives "x".
  *  returns   the start of the text buffer. */
 TARNLIB_API char* tarn_ConvertToBin0(int code);
 /** @copydoc tarn_ConvertToBin0 */
@@ -99,7 +99,7 @@ TARNLIB_API char* tarn_SignedConvertToDec(int width, const VectorWord* value, in
 
 /** The decimal text of a one-bit value given as a LogicCode: as tarn_ConvertToBin0, but a signed 1
  *  (tarn_SignedConvertToDec0) is "-1".
- *  unknown   a code outside 0 to 5 gives "x".
+ *  unknown   the code is 0 to 5; any other gives "x".
  *  returns   the start of the text buffer. */
 TARNLIB_API char* tarn_UnsignedConvertToDec0(int code);
 /** @copydoc tarn_UnsignedConvertToDec0 */
@@ -138,6 +138,7 @@ TARNLIB_API char* tarn_ConvertToChar(const VectorWord* value, int spaceForNul);
 
 /** A one-bit value as one character: code 1 gives the character of value 1, every other code ' '
  *  where spaceForNul is not 0 and an empty text otherwise.
+ *  unknown   the code is 0 to 5.
  *  returns   the start of the text buffer. */
 TARNLIB_API char* tarn_ConvertToChar0(int code, int spaceForNul);
 /** @copydoc tarn_ConvertToChar0 */
@@ -157,13 +158,14 @@ TARNLIB_API char* tarn_ConvertToString(int width, const VectorWord* value, int s
  *----------------------------------------------------------------------------------------------*/
 
 /** A vector from binary, octal or hexadecimal digits without size or base.
- *  widths    bits; reading goes from the last digit to the first and stops when the width is full.
- *            Where the digits run out first, x and z in front of all others extend the value as X
- *            and Z, any other digit as zeros. No digit at all gives 0.
+ *  widths    bits, at least 1; reading goes from the last digit to the first and stops when the
+ *            width is full. Where the digits run out first, x and z in front of all others extend
+ *            the value as X and Z, any other digit as zeros. No digit at all gives 0.
  *  unknown   'x' and 'X' give a digit of X bits; 'z', 'Z' and '?' one of Z bits.
  *  top word  clean: the bits above the width are 0.
  *  writes    exactly N(width) words; none for a width below 1.
  *  returns   false.
+ *  aliasing  result must not overlap the text.
  *  limits    '_' is skipped wherever it stands. A character that is no digit of the base counts as
  *            0. May run in any thread.
  *  source    IEEE 1364-2005, 3.5.1
@@ -178,12 +180,13 @@ TARNLIB_API bool tarn_HexStringToVector(int width, VectorWord* result,
                                         const char* digits) TARNLIB_NOEXCEPT;
 
 /** A vector from decimal digits without size or base.
- *  widths    bits; the value is taken modulo 2 to the power width.
+ *  widths    bits, at least 1; the value is taken modulo 2 to the power width.
  *  unknown   a text that begins with 'x' or 'X' gives X in every bit, with 'z', 'Z' or '?' Z in
  *            every bit; what follows is not read.
  *  top word  clean: the bits above the width are 0.
  *  writes    exactly N(width) words; none for a width below 1.
  *  returns   false.
+ *  aliasing  result must not overlap the text.
  *  limits    '_' is skipped wherever it stands. A character that is no digit counts as 0. For a
  *            long text working areas are allocated during the call; std::bad_alloc passes through.
  *            May run in any thread.
@@ -192,11 +195,12 @@ TARNLIB_API bool tarn_HexStringToVector(int width, VectorWord* result,
 TARNLIB_API bool tarn_DecimalStringToVector(int width, VectorWord* result, const char* digits);
 
 /** A vector from the characters of a text, 8 bits each, the last one in bits 0 to 7.
- *  widths    bits. Of a text of more characters than the words of the result can hold, the last
- *            ones are used; the bits above the width are then cleared.
+ *  widths    bits, at least 1. Of a text of more characters than the words of the result can hold,
+ *            the last ones are used; the bits above the width are then cleared.
  *  top word  clean: the bits above the width are 0.
  *  writes    exactly N(width) words; none for a width below 1.
  *  returns   false.
+ *  aliasing  result must not overlap the text.
  *  limits    may run in any thread.
  *  source    IEEE 1364-2005, 3.6
  *  example   "abc" at width 24 is 24'h616263, at width 16 it is 16'h6263. */
@@ -205,11 +209,13 @@ TARNLIB_API bool tarn_StringToVector(int width, VectorWord* result,
 
 /** The assignment of a string of `length` characters, NULs included, to a vector, 8 bits each, the
  *  last one in bits 0 to 7.
- *  widths    bits. Of a string of more characters than the words of the result can hold, the last
- *            ones are used. A length below 0 counts as 0.
+ *  widths    bits, at least 1. Of a string of more characters than the words of the result can
+ *            hold, the last ones are used. length is 0 or more; below 0 it counts as 0. With length
+ *            0 text may be null.
  *  top word  clean where the string reached the top word (its bits above the width are cleared) and
  *            where it did not (0).
  *  writes    exactly N(width) words, bval 0; none for a width below 1.
+ *  aliasing  result must not overlap the text.
  *  limits    may run in any thread.
  *  source    IEEE 1364-2005, 3.6 */
 TARNLIB_API void tarn_AssignStringToVector(int width, VectorWord* result, int length,
@@ -233,8 +239,8 @@ TARNLIB_API void tarn_CreateReal(const char* text, double* result);
 /** The assignment of a string of `length` characters, NULs included, to a real: the signed 64-bit
  *  number that tarn_AssignStringToVector makes of it, as tarn_SignedConvertToReal converts it.
  *  writes    *result.
- *  limits    of a longer string the last 8 characters are used. A length below 0 counts as 0. May
- *            run in any thread.
+ *  limits    of a longer string the last 8 characters are used. length is 0 or more; below 0 it
+ *            counts as 0. With length 0 text may be null. May run in any thread.
  *  source    IEEE 1364-2005, 3.6 and 4.8.2
  *  example   "AB" gives 16706.0; eight characters of value 255 give -1.0. */
 TARNLIB_API void tarn_AssignStringToReal(double* result, int length,
@@ -264,10 +270,10 @@ TARNLIB_API void tarn_AssignStringToReal(double* result, int length,
  *            1 where a string or a decimal value was cut, or where characters in front of the bits
  *            that fill the width were left unread, zeros and underscores included; else 0.
  *  returns   true for a signed number: a plain decimal number, or one with s before the base.
- *  limits    `allocate` is called once, with N(*width) * 8 bytes; what it returns is the caller's.
- *            No literal is rejected. For a long text working areas are allocated during the call;
- *            std::bad_alloc passes through, and *result, where it was stored by then, has no value
- *            yet. May run in any thread.
+ *  limits    `allocate` is called once, with N(*width) * 8 bytes; what it returns is the caller's,
+ *            and is not null. No literal is rejected. For a long text working areas are allocated
+ *            during the call; std::bad_alloc passes through, and *result, where it was stored by
+ *            then, has no value yet. May run in any thread.
  *  source    IEEE 1364-2005, 3.5.1 and 3.6
  *  example   "4" and "'b10101" give 4'b0101 and *truncated 1. */
 TARNLIB_API bool tarn_CreateVector(const char* sizeText, const char* valueText, int* width,

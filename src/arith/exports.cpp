@@ -12,20 +12,20 @@
 // product or a power may lie in it.
 #define TARN_REQUIRE_PRODUCT(resultWidth, result, aWidth, a, bWidth, b)   \
     TARN_REQUIRE_TWO_OPERANDS(resultWidth, result, aWidth, a, bWidth, b); \
-    TARN_REQUIRE(resultWidth <= kMaxProductWidth);                        \
-    TARN_REQUIRE(IsOutsideRegister(bWidth, b))
+    TARN_REQUIRE_AT_MOST(resultWidth, kMaxProductWidth);                  \
+    TARN_REQUIRE_OUTSIDE_REGISTER(bWidth, b)
 
 #define TARN_REQUIRE_POWER(resultWidth, result, aWidth, a, bWidth, b) \
     TARN_REQUIRE_PRODUCT(resultWidth, result, aWidth, a, bWidth, b);  \
-    TARN_REQUIRE(bWidth <= kMaxExponentWidth)
+    TARN_REQUIRE_AT_MOST(bWidth, kMaxExponentWidth)
 
 #define TARN_REQUIRE_QUOTIENT(resultWidth, result, aWidth, a, bWidth, b)  \
     TARN_REQUIRE_TWO_OPERANDS(resultWidth, result, aWidth, a, bWidth, b); \
-    TARN_REQUIRE(resultWidth <= kMaxQuotientWidth);                       \
-    TARN_REQUIRE(aWidth <= kMaxQuotientWidth);                            \
-    TARN_REQUIRE(bWidth <= kMaxDivisorWidth);                             \
-    TARN_REQUIRE(IsOutsideRegister(aWidth, a));                           \
-    TARN_REQUIRE(IsOutsideRegister(bWidth, b))
+    TARN_REQUIRE_AT_MOST(resultWidth, kMaxQuotientWidth);                 \
+    TARN_REQUIRE_AT_MOST(aWidth, kMaxQuotientWidth);                      \
+    TARN_REQUIRE_AT_MOST(bWidth, kMaxDivisorWidth);                       \
+    TARN_REQUIRE_OUTSIDE_REGISTER(aWidth, a);                             \
+    TARN_REQUIRE_OUTSIDE_REGISTER(bWidth, b)
 
 using namespace tarn;
 

@@ -7,10 +7,10 @@
 
 #define TARN_REQUIRE_COMPARED(aWidth, a, bWidth, b) \
     TARN_ARGUMENTS(aWidth, a, bWidth, b);           \
-    TARN_REQUIRE(aWidth >= 1);                      \
-    TARN_REQUIRE(bWidth >= 1);                      \
-    TARN_REQUIRE(IsVector(aWidth, a));              \
-    TARN_REQUIRE(IsVector(bWidth, b))
+    TARN_REQUIRE_AT_LEAST_1(aWidth);                \
+    TARN_REQUIRE_AT_LEAST_1(bWidth);                \
+    TARN_REQUIRE_VECTOR(aWidth, a);                 \
+    TARN_REQUIRE_VECTOR(bWidth, b)
 
 using namespace tarn;
 

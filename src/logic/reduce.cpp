@@ -144,9 +144,8 @@ using namespace tarn;
 extern "C" {
 
 LogicCode tarn_ReductionAND(int width, const VectorWord* v) noexcept {
-    TARN_ARGUMENTS(width, v);
-    TARN_REQUIRE(width >= 1);
-    TARN_REQUIRE(IsVector(width, v));
+    TARN_REQUIRE_IN_PLACE(width, v);
+    TARN_REQUIRE_AT_LEAST_1(width);
     return Reduce<AndReduction>({width, v});
 }
 

@@ -10,17 +10,16 @@
 
 #define TARN_REQUIRE_STORE(width, result, value) \
     TARN_ARGUMENTS(width, result, value);        \
-    TARN_REQUIRE(width >= 1);                    \
-    TARN_REQUIRE(IsVector(width, result))
+    TARN_REQUIRE_AT_LEAST_1(width);              \
+    TARN_REQUIRE_VECTOR(width, result)
 
 #define TARN_REQUIRE_VALUE(width, v) \
-    TARN_ARGUMENTS(width, v);        \
-    TARN_REQUIRE(width >= 1);        \
-    TARN_REQUIRE(IsVector(width, v))
+    TARN_REQUIRE_IN_PLACE(width, v); \
+    TARN_REQUIRE_AT_LEAST_1(width)
 
 #define TARN_REQUIRE_REAL(result, ...)   \
     TARN_ARGUMENTS(result, __VA_ARGS__); \
-    TARN_REQUIRE(result != nullptr)
+    TARN_REQUIRE_OBJECT(result)
 
 using namespace tarn;
 

@@ -101,33 +101,26 @@ template bool AssignFieldFromBelow<Overwrite>(Result, const VectorWord*, int, in
 template bool AssignFieldFromBelow<OverwriteAndCompare>(Result, const VectorWord*, int,
                                                         int) noexcept;
 
-namespace {
-
-[[maybe_unused]] bool BeginsBelow(const VectorWord* a, const VectorWord* b) noexcept {
-    return reinterpret_cast<std::uintptr_t>(a) < reinterpret_cast<std::uintptr_t>(b);
-}
-
-}  // namespace
 }  // namespace tarn
 
 // Of a target the words that hold bits of the field count. A value that begins below them may reach
 // into them.
-#define TARN_REQUIRE_FIELD(target, value, offset, width) \
-    TARN_ARGUMENTS(target, value, offset, width);        \
-    TARN_REQUIRE(width >= 1);                            \
-    TARN_REQUIRE(offset < 32U);                          \
-    TARN_REQUIRE(IsVector(width, target));               \
-    TARN_REQUIRE(IsVector(width, value));                \
-    TARN_REQUIRE(BeginsBelow(value, target) ||           \
-                 AreSameOrApart(SpanFrom(offset, width), target, width, value))
+#define TARN_REQUIRE_FIELD(target, value, offset, width)                          \
+    TARN_ARGUMENTS(target, value, offset, width);                                 \
+    TARN_REQUIRE_AT_LEAST_1(width);                                               \
+    TARN_REQUIRE_OFFSET(offset);                                                  \
+    TARN_REQUIRE_VECTOR(width, target);                                           \
+    TARN_REQUIRE_VECTOR(width, value);                                            \
+    TARN_REQUIRE(IsAtBelowOrApart(width, value, SpanFrom(offset, width), target), \
+                 "value must begin at target, whole words below it, or lie apart from the field")
 
 #define TARN_REQUIRE_INDEXED_FIELD(targetWidth, target, value, index, width) \
     TARN_ARGUMENTS(targetWidth, target, value, index, width);                \
-    TARN_REQUIRE(targetWidth >= 1);                                          \
-    TARN_REQUIRE(width >= 1);                                                \
-    TARN_REQUIRE(IsVector(targetWidth, target));                             \
-    TARN_REQUIRE(IsVector(width, value));                                    \
-    TARN_REQUIRE(AreSameOrApart(targetWidth, target, width, value))
+    TARN_REQUIRE_AT_LEAST_1(targetWidth);                                    \
+    TARN_REQUIRE_AT_LEAST_1(width);                                          \
+    TARN_REQUIRE_VECTOR(targetWidth, target);                                \
+    TARN_REQUIRE_VECTOR(width, value);                                       \
+    TARN_REQUIRE_SAME_OR_APART(targetWidth, target, width, value)
 
 using namespace tarn;
 
@@ -160,7 +153,8 @@ int tarn_NotIdenticalIndexedPartselectAssign(int targetWidth, VectorWord* target
 
 int tarn_NotIdentical(int width, const VectorWord* a, const VectorWord* b) noexcept {
     TARN_ARGUMENTS(width, a, b);
-    TARN_REQUIRE(IsVector(width, a) && IsVector(width, b));
+    TARN_REQUIRE_VECTOR(width, a);
+    TARN_REQUIRE_VECTOR(width, b);
     return AreDifferent(width, a, b);
 }
 

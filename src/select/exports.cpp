@@ -1,5 +1,6 @@
 // Exports: reads of fields and bits, concatenation, rewriting.
 #include <algorithm>
+#include <bit>
 
 #include <tarnlib/select.h>
 
@@ -8,17 +9,43 @@
 #include "select/partselect.h"
 #include "select/rewrite.h"
 
-// Of a field the words that hold its bits count.
-#define TARN_REQUIRE_FIELD(resultWidth, result, source, offset, width) \
-    TARN_REQUIRE(width >= 1);                                          \
-    TARN_REQUIRE(offset < 32U);                                        \
-    TARN_REQUIRE(IsVector(width, result) && IsVector(width, source));  \
-    TARN_REQUIRE(AreSameOrApart(resultWidth, result, SpanFrom(offset, width), source))
+namespace tarn {
+namespace {
 
-#define TARN_REQUIRE_INDEX(width, index) \
-    TARN_ARGUMENTS(width, index);        \
-    TARN_REQUIRE(width >= 1);            \
-    TARN_REQUIRE(IsVector(width, index))
+// Whether a word can take an operand: it is 0 from the offset upward, or it is the operand itself,
+// placed where it is. For an operand that is laid out as the word is, the offset is at most its
+// lowest bit that is not 0.
+[[maybe_unused]] bool IsPlaceFree(const VectorWord* word, const VectorWord* operand,
+                                  unsigned offset) noexcept {
+    return (word == operand && offset == 0) || (word->aval | word->bval) >> offset == 0;
+}
+
+[[maybe_unused]] bool IsPlaceFree(const VectorWord* word, const VectorWord* operand) noexcept {
+    const int lowest = std::countr_zero(operand->aval | operand->bval);
+    return word == operand || lowest == 32 ||
+           IsPlaceFree(word, operand, static_cast<unsigned>(lowest));
+}
+
+}  // namespace
+}  // namespace tarn
+
+// Of a field the words that hold its bits count. The result may begin below them and reach into
+// them.
+#define TARN_REQUIRE_FIELD(resultWidth, result, source, offset, width)                   \
+    TARN_REQUIRE_AT_LEAST_1(width);                                                      \
+    TARN_REQUIRE_OFFSET(offset);                                                         \
+    TARN_REQUIRE_VECTOR(width, result);                                                  \
+    TARN_REQUIRE_VECTOR(width, source);                                                  \
+    TARN_REQUIRE(IsAtBelowOrApart(resultWidth, result, SpanFrom(offset, width), source), \
+                 "result must begin at source, whole words below it, or lie apart from the field")
+
+// The destination is written up to the span and to the operand's top bit.
+#define TARN_REQUIRE_PLACEMENT(span, placedSpan, destination, operandWidth, operand) \
+    TARN_REQUIRE_AT_LEAST_1(span);                                                   \
+    TARN_REQUIRE_VECTOR(span, destination);                                          \
+    TARN_REQUIRE_VECTOR(operandWidth, operand);                                      \
+    TARN_REQUIRE_SAME_OR_APART(placedSpan, destination, operandWidth, operand);      \
+    TARN_REQUIRE_CLEAN(operandWidth, operand)
 
 using namespace tarn;
 
@@ -41,55 +68,64 @@ void tarn_SignedPartselect(int resultWidth, VectorWord* result, const VectorWord
 void tarn_IndexedPartselect(VectorWord* result, int sourceWidth, const VectorWord* source,
                             int index, int width) noexcept {
     TARN_ARGUMENTS(result, sourceWidth, source, index, width);
-    TARN_REQUIRE(width >= 1);
-    TARN_REQUIRE(IsVector(width, result) && IsVector(sourceWidth, source));
-    TARN_REQUIRE(AreSameOrApart(width, result, sourceWidth, source));
+    TARN_REQUIRE_AT_LEAST_1(width);
+    TARN_REQUIRE_VECTOR(width, result);
+    TARN_REQUIRE_VECTOR(sourceWidth, source);
+    TARN_REQUIRE_SAME_OR_APART(width, result, sourceWidth, source);
     ReadIndexedField(result, {sourceWidth, source}, index, width);
 }
 
 LogicCode tarn_BitValue(int sourceWidth, const VectorWord* source, int index) noexcept {
     TARN_ARGUMENTS(sourceWidth, source, index);
-    TARN_REQUIRE(IsVector(sourceWidth, source));
+    TARN_REQUIRE_VECTOR(sourceWidth, source);
     return ReadBit({sourceWidth, source}, index);
 }
 
 void tarn_CleanBasedFillX(VectorWord* word, int count, int base) noexcept {
     TARN_ARGUMENTS(word, count, base);
-    TARN_REQUIRE(count >= 1);
-    TARN_REQUIRE(base >= 0 && base < 32);
-    TARN_REQUIRE(IsVector(count, word));
+    TARN_REQUIRE_AT_LEAST_1(count);
+    TARN_REQUIRE_OFFSET(base);
+    TARN_REQUIRE_VECTOR(count, word);
     if (count < 1) return;
     const auto first = static_cast<unsigned>(base);
     FillWithX(word, first, first + static_cast<unsigned>(count));
 }
 
 int tarn_SignedScanIndexOfSelect(int width, const VectorWord* index) noexcept {
-    TARN_REQUIRE_INDEX(width, index);
+    TARN_REQUIRE_IN_PLACE(width, index);
+    TARN_REQUIRE_AT_LEAST_1(width);
+    TARN_REQUIRE_SIGN_FILLED(width, index);
     return IsUsableIndex<SignExtend>({width, index});
 }
 
 int tarn_UnsignedScanIndexOfSelect(int width, const VectorWord* index) noexcept {
-    TARN_REQUIRE_INDEX(width, index);
+    TARN_REQUIRE_IN_PLACE(width, index);
+    TARN_REQUIRE_AT_LEAST_1(width);
+    TARN_REQUIRE_CLEAN(width, index);
     return IsUsableIndex<ZeroExtend>({width, index});
 }
 
 void tarn_Concatenate(int span, VectorWord* destination, int operandWidth,
                       const VectorWord* operand, unsigned offset) noexcept {
     TARN_ARGUMENTS(span, destination, operandWidth, operand, offset);
-    TARN_REQUIRE(span >= 1 && operandWidth >= 1);
-    TARN_REQUIRE(offset < 32U);
-    TARN_REQUIRE(IsVector(span, destination) && IsVector(operandWidth, operand));
-    TARN_REQUIRE(AreSameOrApart(std::min(span, SpanFrom(offset, operandWidth)), destination,
-                                operandWidth, operand));
+    TARN_REQUIRE_AT_LEAST_1(operandWidth);
+    TARN_REQUIRE_OFFSET(offset);
+    TARN_REQUIRE_PLACEMENT(span, std::min(span, SpanFrom(offset, operandWidth)), destination,
+                           operandWidth, operand);
+    TARN_REQUIRE(IsPlaceFree(destination, operand, offset),
+                 "word 0 of destination must hold 0 from bit offset upward, but is " +
+                     DescribeWord(*destination));
     Place(span, destination, {operandWidth, operand}, offset);
 }
 
 void tarn_ConcatenateShifted(int span, VectorWord* destination,
                              const VectorWord* operand) noexcept {
     TARN_ARGUMENTS(span, destination, operand);
-    TARN_REQUIRE(span >= 1);
-    TARN_REQUIRE(IsVector(span, destination) && IsVector(span, operand));
-    TARN_REQUIRE(AreSameOrApart(span, destination, span, operand));
+    TARN_REQUIRE_PLACEMENT(span, span, destination, span, operand);
+    TARN_REQUIRE(IsPlaceFree(destination, operand),
+                 "word 0 of destination must hold 0 from the operand's lowest bit upward, but is " +
+                     DescribeWord(*destination) + " where the operand has " +
+                     DescribeWord(*operand));
     PlaceShifted(span, destination, operand);
 }
 

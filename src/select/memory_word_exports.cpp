@@ -4,54 +4,50 @@
 #include "core/contract.h"
 #include "select/memory_word.h"
 
-namespace tarn {
-namespace {
+#define TARN_REQUIRE_MEMORY(memoryWidth, memory) \
+    TARN_REQUIRE_AT_LEAST_1(memoryWidth);        \
+    TARN_REQUIRE((memory) != nullptr, "memory must not be null")
 
-[[maybe_unused]] bool IsMemoryWord(int memoryWidth, const std::uint8_t* memory) noexcept {
-    return memoryWidth >= 1 && memory != nullptr;
-}
+#define TARN_REQUIRE_APART(memoryWidth, memory, width, vector)                    \
+    TARN_REQUIRE(AreApart(memory, 2 * HalfByteCount(memoryWidth), width, vector), \
+                 "the memory word must lie apart from " #vector)
 
-// Whether no byte of the memory word lies in the words of the vector.
-[[maybe_unused]] bool IsApart(int memoryWidth, const std::uint8_t* memory, int width,
-                              const VectorWord* words) noexcept {
-    const auto memoryFirst = reinterpret_cast<std::uintptr_t>(memory);
-    const auto first = reinterpret_cast<std::uintptr_t>(words);
-    return width < 1 || memoryFirst + 2 * HalfByteCount(memoryWidth) <= first ||
-           first + WordCount(width) * sizeof(VectorWord) <= memoryFirst;
-}
-
-}  // namespace
-}  // namespace tarn
+#define TARN_REQUIRE_INSIDE(memoryWidth, low, width)                                               \
+    TARN_REQUIRE(LiesInside(memoryWidth, low, width),                                              \
+                 "the field must lie inside the memory word: low at least 0, low + width at most " \
+                 "memoryWidth")
 
 #define TARN_REQUIRE_MEMORY_VALUE(resultWidth, result, memoryWidth, memory, spareBits) \
     TARN_ARGUMENTS(resultWidth, result, memoryWidth, memory, spareBits);               \
-    TARN_REQUIRE(IsVector(resultWidth, result));                                       \
-    TARN_REQUIRE(IsMemoryWord(memoryWidth, memory));                                   \
-    TARN_REQUIRE(static_cast<unsigned>(spareBits) == SpareBits(memoryWidth));          \
-    TARN_REQUIRE(IsApart(memoryWidth, memory, resultWidth, result))
+    TARN_REQUIRE_MEMORY(memoryWidth, memory);                                          \
+    TARN_REQUIRE_VECTOR(resultWidth, result);                                          \
+    TARN_REQUIRE(static_cast<unsigned>(spareBits) == SpareBits(memoryWidth),           \
+                 "spareBits must be -memoryWidth & 31");                               \
+    TARN_REQUIRE_APART(memoryWidth, memory, resultWidth, result)
 
 #define TARN_REQUIRE_MEMORY_VECTOR(memoryWidth, memory, value) \
     TARN_ARGUMENTS(memoryWidth, memory, value);                \
-    TARN_REQUIRE(IsMemoryWord(memoryWidth, memory));           \
-    TARN_REQUIRE(IsVector(memoryWidth, value));                \
-    TARN_REQUIRE(IsApart(memoryWidth, memory, memoryWidth, value))
+    TARN_REQUIRE_MEMORY(memoryWidth, memory);                  \
+    TARN_REQUIRE_VECTOR(memoryWidth, value);                   \
+    TARN_REQUIRE_APART(memoryWidth, memory, memoryWidth, value)
 
 // `position` is the field's lowest bit or its index.
 #define TARN_REQUIRE_MEMORY_FIELD(memoryWidth, memory, vector, position, width) \
     TARN_ARGUMENTS(memoryWidth, memory, vector, position, width);               \
-    TARN_REQUIRE(IsMemoryWord(memoryWidth, memory));                            \
-    TARN_REQUIRE(width >= 1);                                                   \
-    TARN_REQUIRE(IsVector(width, vector));                                      \
-    TARN_REQUIRE(IsApart(memoryWidth, memory, width, vector))
+    TARN_REQUIRE_MEMORY(memoryWidth, memory);                                   \
+    TARN_REQUIRE_AT_LEAST_1(width);                                             \
+    TARN_REQUIRE_VECTOR(width, vector);                                         \
+    TARN_REQUIRE_APART(memoryWidth, memory, width, vector)
 
 #define TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, vector, position, width) \
     TARN_REQUIRE_MEMORY_FIELD(memoryWidth, memory, vector, position, width);      \
-    TARN_REQUIRE(WordCount(memoryWidth) <= TARN_VECTOR_REGISTER_WORDS);           \
-    TARN_REQUIRE(IsOutsideRegister(width, vector))
+    TARN_REQUIRE_AT_MOST(memoryWidth, kRegisterBits);                             \
+    TARN_REQUIRE_APART(memoryWidth, memory, kRegisterBits, tarn_VectorRegister);  \
+    TARN_REQUIRE_OUTSIDE_REGISTER(width, vector)
 
 #define TARN_REQUIRE_NARROW_FIELD(memoryWidth, memory, vector, position, width) \
     TARN_REQUIRE_MEMORY_FIELD(memoryWidth, memory, vector, position, width);    \
-    TARN_REQUIRE(AreOneWord(memoryWidth))
+    TARN_REQUIRE_AT_MOST(memoryWidth, kWordBits)
 
 using namespace tarn;
 
@@ -86,7 +82,7 @@ int tarn_NotIdenticalMemoryWordAssign(int memoryWidth, std::uint8_t* memory,
 void tarn_MemoryWordPartselect(VectorWord* result, int memoryWidth, const std::uint8_t* memory,
                                int low, int width) noexcept {
     TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, result, low, width);
-    TARN_REQUIRE(LiesInside(memoryWidth, low, width));
+    TARN_REQUIRE_INSIDE(memoryWidth, low, width);
     ReadMemoryField(result, memoryWidth, memory, low, width);
 }
 
@@ -99,7 +95,7 @@ void tarn_MemoryWordIndexedPartselect(VectorWord* result, int memoryWidth,
 void tarn_MemoryWordPartselectAssign(int memoryWidth, std::uint8_t* memory, const VectorWord* value,
                                      int low, int width) noexcept {
     TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, value, low, width);
-    TARN_REQUIRE(LiesInside(memoryWidth, low, width));
+    TARN_REQUIRE_INSIDE(memoryWidth, low, width);
     AssignMemoryField<Overwrite>(memoryWidth, memory, value, low, width);
 }
 
@@ -114,7 +110,7 @@ int tarn_NotIdenticalMemoryWordPartselectAssign(int memoryWidth, std::uint8_t* m
                                                 const VectorWord* value, int low,
                                                 int width) noexcept {
     TARN_REQUIRE_REGISTER_FIELD(memoryWidth, memory, value, low, width);
-    TARN_REQUIRE(LiesInside(memoryWidth, low, width));
+    TARN_REQUIRE_INSIDE(memoryWidth, low, width);
     return AssignMemoryField<OverwriteAndCompare>(memoryWidth, memory, value, low, width);
 }
 
@@ -128,7 +124,7 @@ int tarn_NotIdenticalMemoryWordIndexedPartselectAssign(int memoryWidth, std::uin
 void tarn_MemoryWordPartselectAssign1(int memoryWidth, std::uint8_t* memory,
                                       const VectorWord* value, int low, int width) noexcept {
     TARN_REQUIRE_NARROW_FIELD(memoryWidth, memory, value, low, width);
-    TARN_REQUIRE(LiesInside(memoryWidth, low, width));
+    TARN_REQUIRE_INSIDE(memoryWidth, low, width);
     AssignNarrowField(memoryWidth, memory, value, low, width);
 }
 
@@ -136,7 +132,7 @@ int tarn_NotIdenticalMemoryWordPartselectAssign1(int memoryWidth, std::uint8_t* 
                                                  const VectorWord* value, int low,
                                                  int width) noexcept {
     TARN_REQUIRE_NARROW_FIELD(memoryWidth, memory, value, low, width);
-    TARN_REQUIRE(LiesInside(memoryWidth, low, width));
+    TARN_REQUIRE_INSIDE(memoryWidth, low, width);
     return AssignNarrowField(memoryWidth, memory, value, low, width);
 }
 

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "core/vector.h"
+#include "core/contract.h"
 
 namespace tarn {
 
@@ -21,10 +21,14 @@ struct LiteralOutput {
         }
     }
 
-    // Stores the width and obtains storage for it.
+    // Stores the width and obtains storage for it. What is got is the caller's duty too, and known
+    // only here.
     Result Allocate(int bits) const {
         *width = bits;
         *words = static_cast<VectorWord*>(allocate(WordCount(bits) * sizeof(VectorWord)));
+        TARN_ARGUMENTS(bits, *words);
+        TARN_REQUIRE_IN("tarn_CreateVector", IsVector(bits, *words),
+                        "allocate must return the address of words: not null, aligned");
         return {bits, *words};
     }
 };
