@@ -1,4 +1,5 @@
 // Fields and bits read out of a vector, against a model that reads one bit at a time.
+#include <algorithm>
 #include <climits>
 
 #include <tarnlib/select.h>
@@ -54,6 +55,35 @@ TEST(Partselect, MatchesModel) {
         ASSERT_EQ(ReadSignedField(resultWidth, source, offset, width),
                   Field(resultWidth, source, offset, width, Extension::kSign))
             << gen.Reproducer(resultWidth, offset, width, source);
+    }
+}
+
+// The result may be the vector that the field lies in, from any word up to the field's first one.
+TEST(Partselect, InPlaceMatchesModel) {
+    for (Gen& gen : Seeds(kRuns)) {
+        const int width = gen.Width();
+        const int resultWidth = gen.OneIn(2) ? width : gen.Width();
+        const int low = gen.OneIn(2) ? gen.Below(200) : 32 * gen.Below(6);
+        const Vec v = gen.FourState(low + std::max(width, resultWidth));
+        const auto place = static_cast<std::size_t>(gen.Between(0, low / 32));
+        const auto offset = static_cast<unsigned>(low) % 32U;
+        for (const bool isSigned : {false, true}) {
+            std::vector<VectorWord> words = ToWords(v);
+            VectorWord* const result = words.data() + place;
+            const VectorWord* const source = words.data() + low / 32;
+            if (isSigned) {
+                tarn_SignedPartselect(resultWidth, result, source, offset, width);
+            } else {
+                tarn_Partselect(result, source, offset, width);
+            }
+            const Vec field = Field(isSigned ? resultWidth : 0, v, low, width,
+                                    isSigned ? Extension::kSign : Extension::kZero);
+            Vec expected = v;
+            std::copy(field.bits.begin(), field.bits.end(),
+                      expected.bits.begin() + 32 * static_cast<std::ptrdiff_t>(place));
+            ASSERT_EQ(Words(v.width, words), expected)
+                << gen.Reproducer(isSigned, resultWidth, place, low, width, v);
+        }
     }
 }
 

@@ -19,7 +19,9 @@ TARNLIB_BEGIN_C
  *  top word  clean: the bits of the result above the width are 0 in aval and bval.
  *  writes    exactly N(width) words; none for a width below 1. Only source words that hold bits of
  *            the field are read.
- *  aliasing  result may be source itself; other overlapping storage is not supported.
+ *  aliasing  result may be the vector that the field lies in, and the field is then read as it was
+ *            before the call: result may begin at the word at `source` or at one below it. Other
+ *            overlapping storage is not supported.
  *  limits    may run in any thread.
  *  source    IEEE 1364-2005, 5.2.1
  *  example   offset 30 and width 4 read bits 30 and 31 of source[0] and bits 0 and 1 of source[1].
@@ -35,7 +37,7 @@ TARNLIB_API void tarn_Partselect(VectorWord* result, const VectorWord* source, u
  *  top word  the bits of the result above the field copy the field's top bit, in aval and bval.
  *  writes    exactly N(width) words, or N(resultWidth) if that is more; none for a width below 1.
  *            Only source words that hold bits of the field are read.
- *  aliasing  result may be source itself; other overlapping storage is not supported.
+ *  aliasing  as for tarn_Partselect.
  *  limits    may run in any thread.
  *  source    IEEE 1364-2005, 5.2.1
  *  example   4'bx010 read into 40 bits stores {0xfffffffa, 0xfffffff8} and, as word 1, all X. */
