@@ -1,7 +1,7 @@
 // The additive operators against the reference model, and at their edges.
 #include <tarnlib/arith.h>
 
-#include "support/model.h"
+#include "arith_model.h"
 #include "support/property.h"
 
 namespace tarn::test {
@@ -10,26 +10,6 @@ namespace {
 using TwoOperandExport = Export<TwoOperands, Vec(int, const Vec&, const Vec&)>;
 using OneOperandExport = Export<OneOperand, Vec(int, const Vec&)>;
 using InPlaceExport = Export<InPlace, Vec(const Vec&)>;
-
-constexpr Extension kSign = Extension::kSign;
-constexpr Extension kZero = Extension::kZero;
-
-template <Extension extension, int bSign>
-Vec Sum(int width, const Vec& a, const Vec& b) {
-    if (HasUnknown(a) || HasUnknown(b)) return AllX(width);
-    return FromInteger(width, ToInteger(Extended(a, width, extension)) +
-                                  bSign * ToInteger(Extended(b, width, extension)));
-}
-
-template <Extension extension, int aSign>
-Vec Signed(int width, const Vec& a) {
-    return Sum<extension, aSign>(width, Vec{}, a);
-}
-
-template <int delta>
-Vec Stepped(const Vec& v) {
-    return HasUnknown(v) ? AllX(v.width) : FromInteger(v.width, ToInteger(v) + delta);
-}
 
 constexpr TwoOperandExport kTwoOperandExports[] = {
     {"tarn_SignedAdd", tarn_SignedAdd, Sum<kSign, 1>},

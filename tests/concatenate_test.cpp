@@ -3,28 +3,11 @@
 
 #include <tarnlib/select.h>
 
-#include "support/model.h"
+#include "select_model.h"
 #include "support/property.h"
 
 namespace tarn::test {
 namespace {
-
-Logic Or(Logic a, Logic b) {
-    return static_cast<Logic>(static_cast<int>(a) | static_cast<int>(b));
-}
-
-// What a call leaves of the destination's words that it writes.
-Vec Placed(const Vec& destination, int written, const Vec& operand, int offset, int span) {
-    Vec result = Prefix(destination, written);
-    for (std::size_t i = 0; i < result.bits.size(); ++i) {
-        const std::int64_t from = static_cast<std::int64_t>(i) - offset;
-        const bool isThere = from >= 0 && from < static_cast<std::int64_t>(operand.bits.size()) &&
-                             (from < 32 || from / 32 * 32 + offset < span);
-        const Logic bit = isThere ? operand.bits[static_cast<std::size_t>(from)] : Logic::k0;
-        result.bits[i] = i < 32 ? Or(result.bits[i], bit) : bit;
-    }
-    return result;
-}
 
 Outcome Concatenate(int span, const Vec& destination, const Vec& operand, int offset) {
     const int written = std::min(span, offset + operand.width);

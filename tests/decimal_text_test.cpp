@@ -3,52 +3,14 @@
 
 #include <tarnlib/text.h>
 
-#include "support/model.h"
 #include "support/property.h"
+#include "text_model.h"
 
 namespace tarn::test {
 namespace {
 
 using ToDecimal = char*(int, const VectorWord*, int, int);
 using DecimalExport = Export<ToDecimal, std::string(const Vec&)>;
-
-// The one character of a value with unknown bits: whole words count, but only bits within the width
-// are known.
-std::string UnknownText(const Vec& vec) {
-    const auto has = [](auto begin, auto end, auto test) { return std::any_of(begin, end, test); };
-    const auto begin = vec.bits.begin(), end = vec.bits.end();
-    const bool hasX = has(begin, end, [](Logic bit) { return bit == Logic::kX; });
-    const bool hasZ = has(begin, end, [](Logic bit) { return bit == Logic::kZ; });
-    const bool hasKnown = has(begin, begin + vec.width,
-                              [](Logic bit) { return bit == Logic::k0 || bit == Logic::k1; });
-    if (hasX) return hasZ || hasKnown ? "X" : "x";
-    return hasKnown ? "Z" : "z";
-}
-
-std::string UnsignedText(const Vec& vec) {
-    return HasUnknown(vec) ? UnknownText(vec) : ToInteger(vec).get_str();
-}
-
-// Negative where the top bit or a bit stored above it is set; the magnitude has the width's bits.
-std::string SignedText(const Vec& vec) {
-    if (HasUnknown(vec)) return UnknownText(vec);
-    const mpz_class value = ToInteger(vec);
-    if (mpz_sizeinbase(value.get_mpz_t(), 2) < static_cast<std::size_t>(vec.width) || value == 0)
-        return value.get_str();
-    mpz_class magnitude = -value;
-    mpz_fdiv_r_2exp(magnitude.get_mpz_t(), magnitude.get_mpz_t(), static_cast<unsigned>(vec.width));
-    return std::string(1, '-').append(magnitude.get_str());  // also in front of a 0
-}
-
-// The text in its field; `most` is the width of the field that minDigits < 0 stands for.
-std::string InField(const std::string& text, int minDigits, std::size_t most, bool zeroPad) {
-    const std::size_t field = minDigits < 0 ? most : static_cast<std::size_t>(minDigits);
-    if (text.size() >= field) return text;
-    const std::size_t signs = zeroPad && text[0] == '-' ? 1 : 0;
-    std::string padded(text, 0, signs);
-    padded.append(field - text.size(), zeroPad ? '0' : ' ');
-    return padded.append(text, signs);
-}
 
 class DecimalText : public testing::TestWithParam<DecimalExport> {};
 INSTANTIATE_TEST_SUITE_P(Decimal, DecimalText,

@@ -1,30 +1,15 @@
-// Fields of bits that are written: the model, and random fields beside, across and inside the ends
-// of a target.
+// Random fields of bits that are written: beside, across and inside the ends of a target.
 #ifndef TARN_TESTS_FIELD_MODEL_H
 #define TARN_TESTS_FIELD_MODEL_H
 
 #include <algorithm>
 #include <climits>
 
+#include "select_model.h"
 #include "support/call.h"
 #include "support/gen.h"
 
 namespace tarn::test {
-
-// The target with value in its bits from `index` upward, as far as it has them.
-inline Vec WithField(Vec target, const Vec& value, int index, int width) {
-    for (std::int64_t i = 0; i < target.width; ++i) {
-        const std::int64_t from = i - index;
-        if (0 <= from && from < width) {
-            target.bits[static_cast<std::size_t>(i)] = value.bits[static_cast<std::size_t>(from)];
-        }
-    }
-    return target;
-}
-
-inline bool HasBitInside(int targetWidth, int index, int width) {
-    return width > 0 && index < targetWidth && std::int64_t{index} + width > 0;
-}
 
 struct FieldDraw {
     int index;

@@ -12,27 +12,11 @@
 namespace tarn::test {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
 using WordList = std::vector<VectorWord>;
 
 /*------------------------------------------------------------------------------------------------
  * The model
  *----------------------------------------------------------------------------------------------*/
-
-std::size_t HalfByteCount(int width) {
-    return width < 1 ? 0 : (static_cast<std::size_t>(width) + 7) / 8;
-}
-
-Bytes ToBytes(const Vec& vec) {
-    const std::size_t half = HalfByteCount(vec.width);
-    Bytes bytes(2 * half);
-    for (std::size_t i = 0; i < 8 * half; ++i) {
-        const unsigned bit = static_cast<unsigned>(vec.bits[i]);
-        bytes[i / 8] |= static_cast<std::uint8_t>((bit & 1U) << i % 8);
-        bytes[half + i / 8] |= static_cast<std::uint8_t>((bit >> 1) << i % 8);
-    }
-    return bytes;
-}
 
 // All bits above the width the same.
 Vec WithBitsAbove(Vec vec, Logic above) {

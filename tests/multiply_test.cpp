@@ -1,73 +1,13 @@
 // Products, quotients, remainders and powers against GMP's integers, and at their edges.
 #include <tarnlib/arith.h>
 
-#include "support/model.h"
+#include "arith_model.h"
 #include "support/property.h"
 
 namespace tarn::test {
 namespace {
 
 using TwoOperandExport = Export<TwoOperands, Vec(int, const Vec&, const Vec&)>;
-
-constexpr Extension kSign = Extension::kSign;
-constexpr Extension kZero = Extension::kZero;
-
-mpz_class PowerOfTwo(std::size_t exponent) {
-    mpz_class power;
-    mpz_setbit(power.get_mpz_t(), exponent);
-    return power;
-}
-
-// A known vector's own value: with kSign its last storage bit is the sign.
-mpz_class Value(const Vec& vec, Extension extension) {
-    const bool isNegative = extension == kSign && !vec.bits.empty() && vec.bits.back() == Logic::k1;
-    return isNegative ? mpz_class(ToInteger(vec) - PowerOfTwo(vec.bits.size())) : ToInteger(vec);
-}
-
-template <Extension extension>
-Vec Product(int width, const Vec& a, const Vec& b) {
-    if (HasUnknown(a) || HasUnknown(b)) return AllX(width);
-    return FromInteger(width, Value(a, extension) * Value(b, extension));
-}
-
-// GMP's operators truncate toward zero and give the remainder the dividend's sign, as Verilog does.
-template <Extension extension>
-Vec Quotient(int width, const Vec& a, const Vec& b) {
-    if (HasUnknown(a) || HasUnknown(b) || ToInteger(b) == 0) return AllX(width);
-    return FromInteger(width, Value(a, extension) / Value(b, extension));
-}
-
-template <Extension extension>
-Vec Remainder(int width, const Vec& a, const Vec& b) {
-    if (HasUnknown(a) || HasUnknown(b) || ToInteger(b) == 0) return AllX(width);
-    return FromInteger(width, Value(a, extension) % Value(b, extension));
-}
-
-template <Extension baseExtension>
-Vec UPower(int width, const Vec& base, const Vec& exponent) {
-    if (HasUnknown(base) || HasUnknown(exponent)) return AllX(width);
-    if (width < 1) return Vec{width, {}};
-    const auto bits = static_cast<std::size_t>(std::max(exponent.width, 0));
-    const mpz_class count = ToInteger(exponent) % PowerOfTwo(bits);
-    const mpz_class modulus = PowerOfTwo(32 * WordCount(width));
-    const mpz_class value = Value(base, baseExtension);
-    mpz_class power;
-    mpz_powm(power.get_mpz_t(), value.get_mpz_t(), count.get_mpz_t(), modulus.get_mpz_t());
-    return FromInteger(width, power);
-}
-
-template <Extension baseExtension>
-Vec SPower(int width, const Vec& base, const Vec& exponent) {
-    if (HasUnknown(base) || HasUnknown(exponent)) return AllX(width);
-    const mpz_class shifted =
-        ToInteger(exponent) >> static_cast<unsigned>(std::max(exponent.width, 1) - 1);
-    if (exponent.width < 1 || shifted == 0) return UPower<baseExtension>(width, base, exponent);
-    const mpz_class value = Value(base, baseExtension);
-    if (value == 0) return AllX(width);
-    const bool isOdd = exponent.bits[0] == Logic::k1;
-    if (value == 1 || value == -1) return FromInteger(width, isOdd ? value : mpz_class(1));
-    return FromInteger(width, 0);
-}
 
 constexpr TwoOperandExport kProducts[] = {
     {"tarn_SignedMul", tarn_SignedMul, Product<kSign>},

@@ -7,8 +7,8 @@
 #include <tarnlib/text.h>
 
 #include "support/guarded.h"
-#include "support/model.h"
 #include "support/property.h"
+#include "text_model.h"
 
 namespace tarn::test {
 namespace {
@@ -47,25 +47,6 @@ Outcome Assign(int width, int length, const std::string& characters) {
 template <int bitsPerDigit>
 Vec RadixValue(int width, const std::string& text) {
     return FromDigits(width, bitsPerDigit, text);
-}
-
-Vec DecimalValue(int width, const std::string& text) {
-    const Vec first = FromDigits(width, 4, text.substr(0, 1));
-    if (HasUnknown(first)) return Clean(first);
-    std::string digits = "0";
-    for (const char c : text) {
-        if (c != '_') digits += c >= '0' && c <= '9' ? c : '0';
-    }
-    return Clean(FromInteger(width, mpz_class(digits, 10)));
-}
-
-Vec PackedValue(int width, const std::string& characters) {
-    Vec vec = Filled(width, Logic::k0);
-    for (std::size_t bit = 0; bit < vec.bits.size() && bit / 8 < characters.size(); ++bit) {
-        const auto c = static_cast<unsigned char>(characters[characters.size() - 1 - bit / 8]);
-        vec.bits[bit] = (c >> bit % 8) % 2 == 1 ? Logic::k1 : Logic::k0;
-    }
-    return Clean(vec);
 }
 
 // Stretches of digits alone and stretches with other characters among them, together up to a

@@ -4,24 +4,11 @@
 
 #include <tarnlib/select.h>
 
-#include "support/model.h"
+#include "select_model.h"
 #include "support/property.h"
 
 namespace tarn::test {
 namespace {
-
-// Bits index to index + width - 1 of a vector, X where it has none, extended to a wider result.
-Vec Field(int resultWidth, const Vec& source, int index, int width, Extension extension) {
-    Vec field = Filled(width, Logic::k0);
-    for (std::int64_t k = 0; k < width; ++k) {
-        const std::int64_t i = index + k;
-        const bool isInside = i >= 0 && i < source.width;
-        field.bits[static_cast<std::size_t>(k)] =
-            isInside ? source.bits[static_cast<std::size_t>(i)] : Logic::kX;
-    }
-    if (extension == Extension::kSign) field = SignFilled(field);
-    return Extended(field, std::max(resultWidth, width), extension);
-}
 
 // The source is as long as the field needs, so that reading one word more is a stray access.
 Outcome ReadField(const Vec& source, int offset, int width) {

@@ -4,40 +4,11 @@
 
 #include <tarnlib/text.h>
 
-#include "support/model.h"
 #include "support/property.h"
+#include "text_model.h"
 
 namespace tarn::test {
 namespace {
-
-// The character of a digit's bits, least significant first, by the first rule that fits.
-char DigitCharacter(const std::vector<Logic>& bits) {
-    std::size_t value = 0, counts[4] = {};
-    for (std::size_t i = 0; i < bits.size(); ++i) {
-        ++counts[static_cast<std::size_t>(bits[i])];
-        value |= bits[i] == Logic::k1 ? std::size_t{1} << i : 0;
-    }
-    const std::size_t zs = counts[2], xs = counts[3];
-    if (xs > 0) return xs == bits.size() ? 'x' : 'X';
-    if (zs > 0) return zs == bits.size() ? 'z' : 'Z';
-    return "0123456789abcdef"[value];
-}
-
-// A top digit of fewer bits needs no widening here: the rules see the bits that it has.
-template <int bitsPerDigit>
-std::string DigitText(const Vec& vec, int minDigits) {
-    std::string text;
-    for (int first = 0; first < vec.width; first += bitsPerDigit) {
-        const int last = std::min(first + bitsPerDigit, vec.width);
-        text += DigitCharacter({vec.bits.begin() + first, vec.bits.begin() + last});
-    }
-    std::reverse(text.begin(), text.end());
-    if (minDigits < 0) return text;
-    const std::size_t least = std::max<std::size_t>(static_cast<std::size_t>(minDigits), 1);
-    const std::size_t zeros = std::min(text.find_first_not_of('0'), text.size());
-    text.erase(0, std::min(zeros, text.size() - std::min(least, text.size())));
-    return text.size() < least ? text.insert(0, least - text.size(), '0') : text;
-}
 
 using ToDigits = char*(int, const VectorWord*, int);
 using RadixExport = Export<ToDigits, std::string(const Vec&, int)>;
@@ -108,20 +79,6 @@ TEST(RadixText, LogicCodes) {
             EXPECT_STREQ(function(code, -7), code == 1 ? "\1" : " ") << code;
         }
     }
-}
-
-// The characters of the storage's bytes, as many as hold bits of the width.
-std::string CharacterText(const Vec& vec, bool spaceForNul) {
-    std::string text;
-    for (std::size_t first = 0; first < static_cast<std::size_t>(vec.width); first += 8) {
-        unsigned character = 0;
-        for (std::size_t i = 0; i < 8; ++i) {
-            character |= (vec.bits[first + i] == Logic::k1 ? 1U : 0U) << i;
-        }
-        if (character == 0 && spaceForNul) character = ' ';
-        if (character != 0) text.insert(text.begin(), static_cast<char>(character));
-    }
-    return text;
 }
 
 std::string Characters(const Vec& value, int space) {

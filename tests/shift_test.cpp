@@ -3,7 +3,7 @@
 
 #include <tarnlib/shift.h>
 
-#include "support/model.h"
+#include "select_model.h"
 #include "support/property.h"
 
 namespace tarn::test {
@@ -20,25 +20,6 @@ Outcome CallShift(Shift* function, int width, const Vec& source, unsigned amount
                                   function(width, result, sourceWidth, operands[0], amount);
                                   return 0;
                               });
-}
-
-Vec Left(int width, const Vec& source, std::uint64_t amount) {
-    Vec result = Filled(width, Logic::k0);
-    if (amount >= static_cast<std::uint64_t>(width)) return result;
-    for (std::size_t i = amount; i < result.bits.size(); ++i) {
-        result.bits[i] = source.bits[i - amount];
-    }
-    return result;
-}
-
-template <Extension extension>
-Vec Right(int width, const Vec& source, std::uint64_t amount) {
-    Vec result = Filled(width, extension == Extension::kSign ? source.bits.back() : Logic::k0);
-    if (amount >= static_cast<std::uint64_t>(source.width)) return result;
-    for (std::size_t i = 0; i < result.bits.size() && i + amount < source.bits.size(); ++i) {
-        result.bits[i] = source.bits[i + amount];
-    }
-    return result;
 }
 
 using ShiftExport = Export<Shift, ShiftModel>;
