@@ -226,7 +226,7 @@ TARNLIB_API void tarn_AssignStringToVector(int width, VectorWord* result, int le
  *----------------------------------------------------------------------------------------------*/
 
 /** The value of a real literal.
- *  writes    *result: what the C library's atof makes of the text without its '_' characters. It
+ *  writes    *result: what the C library's strtod makes of the text without its '_' characters. It
  *            skips white space, stops where the number ends, and gives 0.0 where there is none.
  *  limits    the decimal point is that of the program's locale, and hexadecimal reals, infinities
  *            and NaNs are read too. A text that has a '_' is copied; for a long one working areas

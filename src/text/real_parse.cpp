@@ -11,12 +11,12 @@
 namespace tarn {
 
 double ParseReal(const char* text) {
-    if (std::strchr(text, '_') == nullptr) return std::atof(text);
+    if (std::strchr(text, '_') == nullptr) return std::strtod(text, nullptr);
     const char* const end = text + std::strlen(text);
     // Room for any literal that is meant to be read.
     WorkingArea<char, 128> digits(static_cast<std::size_t>(end - text) + 1);
     *std::remove_copy(text, end, digits.Items(), '_') = '\0';
-    return std::atof(digits.Items());
+    return std::strtod(digits.Items(), nullptr);
 }
 
 double PackedReal(std::string_view characters) noexcept {
