@@ -28,16 +28,10 @@ Vec Stepped(const Vec& v) {
     return HasUnknown(v) ? AllX(v.width) : FromInteger(v.width, ToInteger(v) + delta);
 }
 
-inline mpz_class PowerOfTwo(std::size_t exponent) {
-    mpz_class power;
-    mpz_setbit(power.get_mpz_t(), exponent);
-    return power;
-}
-
 // A known vector's own value: with kSign its last storage bit is the sign.
-inline mpz_class Value(const Vec& vec, Extension extension) {
+inline Integer Value(const Vec& vec, Extension extension) {
     const bool isNegative = extension == kSign && !vec.bits.empty() && vec.bits.back() == Logic::k1;
-    return isNegative ? mpz_class(ToInteger(vec) - PowerOfTwo(vec.bits.size())) : ToInteger(vec);
+    return isNegative ? Integer(ToInteger(vec) - PowerOfTwo(vec.bits.size())) : ToInteger(vec);
 }
 
 template <Extension extension>
@@ -46,7 +40,8 @@ Vec Product(int width, const Vec& a, const Vec& b) {
     return FromInteger(width, Value(a, extension) * Value(b, extension));
 }
 
-// GMP's operators truncate toward zero and give the remainder the dividend's sign, as Verilog does.
+// Integer's operators truncate toward zero and give the remainder the dividend's sign, as Verilog
+// does.
 template <Extension extension>
 Vec Quotient(int width, const Vec& a, const Vec& b) {
     if (HasUnknown(a) || HasUnknown(b) || ToInteger(b) == 0) return AllX(width);
@@ -64,24 +59,21 @@ Vec UPower(int width, const Vec& base, const Vec& exponent) {
     if (HasUnknown(base) || HasUnknown(exponent)) return AllX(width);
     if (width < 1) return Vec{width, {}};
     const auto bits = static_cast<std::size_t>(std::max(exponent.width, 0));
-    const mpz_class count = ToInteger(exponent) % PowerOfTwo(bits);
-    const mpz_class modulus = PowerOfTwo(32 * WordCount(width));
-    const mpz_class value = Value(base, baseExtension);
-    mpz_class power;
-    mpz_powm(power.get_mpz_t(), value.get_mpz_t(), count.get_mpz_t(), modulus.get_mpz_t());
-    return FromInteger(width, power);
+    const Integer count = ToInteger(exponent) % PowerOfTwo(bits);
+    const Integer value = Value(base, baseExtension);
+    return FromInteger(width, LowPower(value, count, 32 * WordCount(width)));
 }
 
 template <Extension baseExtension>
 Vec SPower(int width, const Vec& base, const Vec& exponent) {
     if (HasUnknown(base) || HasUnknown(exponent)) return AllX(width);
-    const mpz_class shifted =
+    const Integer shifted =
         ToInteger(exponent) >> static_cast<unsigned>(std::max(exponent.width, 1) - 1);
     if (exponent.width < 1 || shifted == 0) return UPower<baseExtension>(width, base, exponent);
-    const mpz_class value = Value(base, baseExtension);
+    const Integer value = Value(base, baseExtension);
     if (value == 0) return AllX(width);
     const bool isOdd = exponent.bits[0] == Logic::k1;
-    if (value == 1 || value == -1) return FromInteger(width, isOdd ? value : mpz_class(1));
+    if (value == 1 || value == -1) return FromInteger(width, isOdd ? value : Integer(1));
     return FromInteger(width, 0);
 }
 

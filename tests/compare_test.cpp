@@ -49,10 +49,10 @@ int Unequal(const Vec& a, const Vec& b) {
     return equal == 3 ? 3 : 1 - equal;
 }
 
-mpz_class ValueOf(const Vec& vec, Extension extension) {
-    mpz_class value = ToInteger(vec);
+Integer ValueOf(const Vec& vec, Extension extension) {
+    Integer value = ToInteger(vec);
     if (extension == kSign && vec.bits.back() == Logic::k1) {
-        value -= mpz_class(1) << vec.bits.size();
+        value -= Integer(1) << vec.bits.size();
     }
     return value;
 }
@@ -60,8 +60,8 @@ mpz_class ValueOf(const Vec& vec, Extension extension) {
 template <Extension extension>
 int Related(const Vec& a, const Vec& b) {
     if (a.width < 1 || b.width < 1 || HasUnknown(a) || HasUnknown(b)) return 2;
-    const int order = cmp(ValueOf(a, extension), ValueOf(b, extension));
-    return order == 0 ? -1 : order > 0 ? 1 : 0;
+    const Integer aValue = ValueOf(a, extension), bValue = ValueOf(b, extension);
+    return aValue == bValue ? -1 : aValue > bValue ? 1 : 0;
 }
 
 constexpr CompareExport kExports[] = {

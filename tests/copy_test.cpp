@@ -59,7 +59,7 @@ void ExpectConversions(FromScalar<Value>* function, Pattern pattern) {
         const int width = gen.AnyWidth();
         const Value value = Draw<Value>(gen);
         Vec expected{width, std::vector<Logic>(32 * std::max<std::size_t>(WordCount(width), 1))};
-        AssignInteger(expected, mpz_class(pattern(value)));
+        AssignInteger(expected, Integer(pattern(value)));
         ASSERT_EQ(Call(function, width, value), expected) << gen.Reproducer(width, value);
     }
 }

@@ -23,13 +23,12 @@ INSTANTIATE_TEST_SUITE_P(Decimal, DecimalText,
 TEST_P(DecimalText, MatchesModel) {
     ToDecimal* const function = GetParam().function;
     const auto model = GetParam().model;
-    const std::size_t sign = function == tarn_SignedConvertToDec ? 1 : 0;
+    const std::size_t sign = std::strcmp(GetParam().name, "tarn_SignedConvertToDec") == 0 ? 1 : 0;
     for (Gen& gen : Seeds(kRuns)) {
         const Vec value = gen.OneIn(8) ? gen.FourState(gen.Width()) : gen.Vector(gen.Width());
         // The largest number of the width has as many digits as the width can need.
-        mpz_class largest;
-        mpz_setbit(largest.get_mpz_t(), static_cast<std::size_t>(value.width));
-        const std::size_t most = mpz_class(largest - 1).get_str().size() + sign;
+        const Integer largest = PowerOfTwo(static_cast<std::size_t>(value.width)) - 1;
+        const std::size_t most = ToDigits(largest).size() + sign;
         const int minDigits = gen.OneIn(2) ? -1 : gen.Below(2 * value.width);
         const bool zeroPad = gen.OneIn(2);
         const std::string text = CallForText(value, [&](const VectorWord* words) {

@@ -172,7 +172,7 @@ TEST(Literal, MatchesModel) {
         std::size_t unread = 0;
         Vec value = FromDigits(width, base.bitsPerDigit, digits, &unread);
         if (isDecimal) {
-            const mpz_class number(plain, 10);
+            const Integer number = FromDecimal(plain);
             value = Clean(FromInteger(width, number));
             unread = ToInteger(value) != number;
         }

@@ -1,4 +1,4 @@
-// Products, quotients, remainders and powers against GMP's integers, and at their edges.
+// Products, quotients, remainders and powers against integers of any size, and at their edges.
 #include <tarnlib/arith.h>
 
 #include "arith_model.h"
@@ -28,7 +28,7 @@ constexpr TwoOperandExport kPowers[] = {
 Vec NearPowerOfTwo(Gen& gen, int width) {
     const std::size_t bits = 32 * WordCount(width);
     const auto position = static_cast<std::size_t>(gen.Below(static_cast<int>(bits)));
-    mpz_class value = PowerOfTwo(position) + gen.Between(-1, 1);
+    Integer value = PowerOfTwo(position) + gen.Between(-1, 1);
     if (gen.OneIn(3)) value = -value;
     return FromInteger(width, value);
 }
@@ -52,12 +52,12 @@ TEST_P(Products, MatchesModelBesideMultiples) {
     const auto& [name, function, model] = GetParam();
     for (Gen& gen : Seeds(1000)) {
         const int bWidth = 64 * gen.Between(1, 12), width = bWidth + 64 * gen.Between(0, 12);
-        const mpz_class top = PowerOfTwo(static_cast<std::size_t>(bWidth) - 1);
-        mpz_class divisor = ToInteger(Clean(Prefix(gen.Vector(bWidth), bWidth))) | top;
+        const Integer top = PowerOfTwo(static_cast<std::size_t>(bWidth) - 1);
+        Integer divisor = ToInteger(Clean(Prefix(gen.Vector(bWidth), bWidth))) | top;
         if (gen.OneIn(3)) divisor = top + gen.Below(3);
         if (gen.OneIn(3)) divisor = 2 * top - gen.Between(1, 3);
-        const mpz_class factor = PowerOfTwo(static_cast<std::size_t>(width - bWidth)) - 1;
-        const mpz_class dividend = factor * divisor + gen.Between(-1, 1);
+        const Integer factor = PowerOfTwo(static_cast<std::size_t>(width - bWidth)) - 1;
+        const Integer dividend = factor * divisor + gen.Between(-1, 1);
         const Vec a = FromInteger(width, dividend), b = FromInteger(bWidth, divisor);
         ASSERT_EQ(Call(function, width, a, b), model(width, a, b)) << gen.Reproducer(width, a, b);
     }

@@ -149,7 +149,7 @@ TEST(Parse, RealsAreThoseOfTheLibraryWithoutUnderscores) {
             digits += "0123456789012345678901234567890123456789.-+eEx p"[gen.Below(48)];
             text += std::string(gen.OneIn(3) ? 1 : 0, '_') + digits.back();
         }
-        ASSERT_EQ(Real(text, kEdges[gen.Below(3)]), std::atof(digits.c_str()))
+        ASSERT_EQ(Real(text, kEdges[gen.Below(3)]), std::strtod(digits.c_str(), nullptr))
             << gen.Reproducer(text);
     }
 }

@@ -213,8 +213,8 @@ template <Extension extension>
 int IsIndex(const Vec& index) {
     if (index.width < 1 || HasUnknown(index)) return 0;
     const bool isSigned = extension == Extension::kSign;
-    mpz_class value = ToInteger(index);
-    if (isSigned && index.bits.back() == Logic::k1) value -= mpz_class(1) << index.bits.size();
+    Integer value = ToInteger(index);
+    if (isSigned && index.bits.back() == Logic::k1) value -= Integer(1) << index.bits.size();
     return value <= INT_MAX && value >= INT_MIN ? 1 : 0;
 }
 

@@ -26,29 +26,25 @@ struct Real {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-mpz_class PowerOfTwo(int exponent) {
-    return mpz_class(1) << static_cast<mp_bitcnt_t>(exponent);
-}
-
 // The exact value with its magnitude rounded to 53 bits, halves away from zero.
-double Nearest(const mpz_class& value) {
+double Nearest(const Integer& value) {
     constexpr std::size_t kPrecision = 53;
-    const mpz_class magnitude = abs(value);
-    const std::size_t bits = mpz_sizeinbase(magnitude.get_mpz_t(), 2);
-    if (bits <= kPrecision) return value.get_d();
+    const Integer magnitude = abs(value);
+    const std::size_t bits = BitCount(magnitude);
+    if (bits <= kPrecision) return ToDouble(value);
     const std::size_t dropped = bits - kPrecision;
-    const mpz_class half = mpz_class(1) << (dropped - 1);
-    const mpz_class significand = (magnitude + half) >> dropped;
-    const double rounded = std::ldexp(significand.get_d(), static_cast<int>(dropped));
+    const Integer half = Integer(1) << (dropped - 1);
+    const Integer significand = (magnitude + half) >> dropped;
+    const double rounded = std::ldexp(ToDouble(significand), static_cast<int>(dropped));
     return value < 0 ? -rounded : rounded;
 }
 
-mpz_class SignedValue(const Vec& v) {
+Integer SignedValue(const Vec& v) {
     const bool isNegative = v.bits[static_cast<std::size_t>(v.width) - 1] == Logic::k1;
     if (!isNegative && v.width > 32) return ToInteger(v);
-    mpz_class value = ToInteger(v);
-    mpz_fdiv_r_2exp(value.get_mpz_t(), value.get_mpz_t(), static_cast<mp_bitcnt_t>(v.width));
-    return isNegative ? mpz_class(value - PowerOfTwo(v.width)) : value;
+    const auto width = static_cast<std::size_t>(v.width);
+    const Integer value = LowBits(ToInteger(v), width);
+    return isNegative ? Integer(value - PowerOfTwo(width)) : value;
 }
 
 using ToReal = double(int, const VectorWord*);
@@ -65,15 +61,15 @@ Real Convert(ToReal* function, const Vec& v) {
 
 // A value with its highest bit anywhere, 54 bits from there on that lie at or beside a rounding
 // boundary, and below them nothing, ones alone, one bit or a run of ones: what a carry can pass.
-mpz_class DrawAtBoundary(Gen& gen, int width) {
+Integer DrawAtBoundary(Gen& gen, int width) {
     const std::uint64_t leading = (gen.OneIn(3) ? ~std::uint64_t{0} : gen.Bits()) >> 10;
-    mpz_class value = (leading ^ gen.Bits() % 4) | std::uint64_t{1} << 53;
+    Integer value = (leading ^ gen.Bits() % 4) | std::uint64_t{1} << 53;
     const int below = gen.Between(1, width) - 54;
     if (below <= 0) return value / PowerOfTwo(-below);
-    const mpz_class end = PowerOfTwo(below), inside = PowerOfTwo(gen.Below(below));
-    const mpz_class tails[] = {0, end - 1, inside, end - inside};
+    const Integer end = PowerOfTwo(below), inside = PowerOfTwo(gen.Below(below));
+    const Integer tails[] = {0, end - 1, inside, end - inside};
     value = value * end + tails[gen.Below(4)];
-    return gen.OneIn(3) ? value : gen.OneIn(2) ? mpz_class(-value) : mpz_class(~value);
+    return gen.OneIn(3) ? value : gen.OneIn(2) ? Integer(-value) : Integer(~value);
 }
 
 Vec DrawInteger(Gen& gen) {
@@ -87,7 +83,7 @@ Vec DrawInteger(Gen& gen) {
     return v;
 }
 
-using ToRealExport = Export<ToReal, mpz_class(const Vec&)>;
+using ToRealExport = Export<ToReal, Integer(const Vec&)>;
 constexpr ToRealExport kToRealExports[] = {
     {"tarn_UnsignedConvertToReal", tarn_UnsignedConvertToReal, ToInteger},
     {"tarn_SignedConvertToReal", tarn_SignedConvertToReal, SignedValue},
@@ -111,7 +107,7 @@ TEST_P(ToRealTest, FindsTheTopOfWideVectors) {
     for (const int width : {1020, 1056, 1057, 2080, 3333, 1'000'003}) {
         const int step = width > 10'000 ? 199'999 : 31;
         for (int top = 0; top < width - 1; top += top < 1025 && step > 31 ? 341 : step) {
-            for (const mpz_class& value : {PowerOfTwo(top), mpz_class(PowerOfTwo(top) + 1)}) {
+            for (const Integer& value : {PowerOfTwo(top), Integer(PowerOfTwo(top) + 1)}) {
                 for (const int sign : {1, -1}) {
                     const Vec v = FromInteger(width, sign * value);
                     ASSERT_EQ(Convert(function, v), Real{Nearest(model(v))}) << v << top;
@@ -160,17 +156,17 @@ TEST(Real, KnownValuesOfVectors) {
 using FromReal = FromScalar<double>;
 
 // What is no number counts as one with the exponent that its field names.
-mpz_class WholePart(double value) {
-    if (std::isfinite(value)) return mpz_class(value);
-    const mpz_class fraction(Real{value}.Bits() << 12 >> 12 | std::uint64_t{1} << 52);
+Integer WholePart(double value) {
+    if (std::isfinite(value)) return Integer(value);
+    const Integer fraction(Real{value}.Bits() << 12 >> 12 | std::uint64_t{1} << 52);
     return (std::signbit(value) ? -fraction : fraction) << (2047 - 1075);
 }
 
-mpz_class Rounded(double value) {
+Integer Rounded(double value) {
     return WholePart(value >= 0 ? value + 0.5 : value - 0.5);
 }
 
-mpz_class Truncated(double value) {
+Integer Truncated(double value) {
     double whole;
     std::modf(value, &whole);
     return Rounded(whole);
@@ -188,7 +184,7 @@ double DrawReal(Gen& gen, int leastExponent, int mostExponent) {
     return std::isnan(value) ? std::bit_cast<double>(bits | std::uint64_t{1} << 51) : value;
 }
 
-using FromRealExport = Export<FromReal, mpz_class(double)>;
+using FromRealExport = Export<FromReal, Integer(double)>;
 constexpr FromRealExport kFromRealExports[] = {
     {"tarn_ConvertToVector", tarn_ConvertToVector, Rounded},
     {"tarn_TruncatedConvertToVector", tarn_TruncatedConvertToVector, Truncated},
@@ -338,9 +334,9 @@ TEST(Real, KnownValuesOfFunctions) {
 }
 
 int BitsBelow(const Vec& v) {
-    const mpz_class value = ToInteger(v);
+    const Integer value = ToInteger(v);
     if (HasUnknown(v) || value <= 1) return 0;
-    return static_cast<int>(mpz_sizeinbase(mpz_class(value - 1).get_mpz_t(), 2));
+    return static_cast<int>(BitCount(value - 1));
 }
 
 TEST(Clog2, MatchesModel) {

@@ -66,18 +66,16 @@ inline std::string UnknownText(const Vec& vec) {
 }
 
 inline std::string UnsignedText(const Vec& vec) {
-    return HasUnknown(vec) ? UnknownText(vec) : ToInteger(vec).get_str();
+    return HasUnknown(vec) ? UnknownText(vec) : ToDigits(ToInteger(vec));
 }
 
 // Negative where the top bit or a bit stored above it is set; the magnitude has the width's bits.
 inline std::string SignedText(const Vec& vec) {
     if (HasUnknown(vec)) return UnknownText(vec);
-    const mpz_class value = ToInteger(vec);
-    if (mpz_sizeinbase(value.get_mpz_t(), 2) < static_cast<std::size_t>(vec.width) || value == 0)
-        return value.get_str();
-    mpz_class magnitude = -value;
-    mpz_fdiv_r_2exp(magnitude.get_mpz_t(), magnitude.get_mpz_t(), static_cast<unsigned>(vec.width));
-    return std::string(1, '-').append(magnitude.get_str());  // also in front of a 0
+    const Integer value = ToInteger(vec);
+    if (BitCount(value) < static_cast<std::size_t>(vec.width) || value == 0) return ToDigits(value);
+    const Integer magnitude = LowBits(-value, static_cast<std::size_t>(vec.width));
+    return std::string(1, '-').append(ToDigits(magnitude));  // also in front of a 0
 }
 
 // The text in its field; `most` is the width of the field that minDigits < 0 stands for.
@@ -97,7 +95,7 @@ inline Vec DecimalValue(int width, const std::string& text) {
     for (const char c : text) {
         if (c != '_') digits += c >= '0' && c <= '9' ? c : '0';
     }
-    return Clean(FromInteger(width, mpz_class(digits, 10)));
+    return Clean(FromInteger(width, FromDecimal(digits)));
 }
 
 inline Vec PackedValue(int width, const std::string& characters) {

@@ -1,40 +1,25 @@
 #include "support/gen.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <climits>
-#include <csignal>
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <unistd.h>
+
+#include "support/platform.h"
 
 namespace tarn::test {
 namespace {
 
-// A stray access ends the process before a test can say which run made it; this says it, and lets
-// the signal do what it did before.
 volatile std::uint64_t currentSeed = 0;
-struct sigaction previousAction = {};
 
-void PrintSeed(int signalNumber) {
+// A stray access ends the process before a test can say which run made it; this says it.
+void PrintSeed() {
     char line[] = "\nstray access in the run of TARNLIB_SEED=00000000000000000000\n";
     char* digit = line + sizeof line - 3;
     for (std::uint64_t seed = currentSeed; seed != 0; seed /= 10) {
         *digit-- = static_cast<char>('0' + seed % 10);
     }
-    const std::size_t count = currentSeed == 0 ? 0 : sizeof line - 1;
-    const ssize_t written = write(STDERR_FILENO, line, count);
-    static_cast<void>(written);
-    sigaction(signalNumber, &previousAction, nullptr);
-}
-
-void WatchStrayAccesses() {
-    static const bool isInstalled = [] {
-        struct sigaction action = {};
-        action.sa_handler = PrintSeed;
-        return sigaction(SIGSEGV, &action, &previousAction) == 0;
-    }();
-    static_cast<void>(isInstalled);
+    if (currentSeed != 0) WriteError(line);
 }
 
 std::uint64_t FromEnvironment(const char* name, std::uint64_t otherwise) {
@@ -47,7 +32,7 @@ std::uint64_t FromEnvironment(const char* name, std::uint64_t otherwise) {
 Seeds::Seeds(int count)
     : first_(FromEnvironment("TARNLIB_SEED", 1)),
       last_(first_ + FromEnvironment("TARNLIB_RUNS", static_cast<std::uint64_t>(count))) {
-    WatchStrayAccesses();
+    OnStrayAccess(PrintSeed);
 }
 
 Seeds::~Seeds() {
@@ -146,7 +131,7 @@ TwoOperandDraw Gen::TwoOperands(bool fourState) {
 std::string Gen::Replay() const {
     const testing::TestInfo* const test = testing::UnitTest::GetInstance()->current_test_info();
     std::ostringstream out;
-    out << "replay: TARNLIB_SEED=" << seed_ << " TARNLIB_RUNS=1 " << program_invocation_short_name
+    out << "replay: TARNLIB_SEED=" << seed_ << " TARNLIB_RUNS=1 " << ProgramName()
         << " --gtest_filter=" << test->test_suite_name() << '.' << test->name();
     return out.str();
 }

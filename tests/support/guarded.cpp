@@ -3,19 +3,14 @@
 #include <algorithm>
 #include <new>
 #include <string>
-#include <sys/mman.h>
-#include <unistd.h>
+
+#include "support/platform.h"
 
 namespace tarn::test {
 namespace {
 
 constexpr std::ptrdiff_t kMargin = 32;
 constexpr std::byte kPaint{0x5C};
-
-std::size_t PageSize() {
-    static const auto size = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-    return size;
-}
 
 }  // namespace
 
@@ -25,7 +20,7 @@ GuardedBlock::~GuardedBlock() {
 
 void GuardedBlock::Unmap() {
     if (first_ == nullptr) return;
-    munmap(first_ - PageSize(), static_cast<std::size_t>(last_ - first_) + 2 * PageSize());
+    UnmapGuarded(first_, static_cast<std::size_t>(last_ - first_));
     first_ = nullptr;
 }
 
@@ -33,12 +28,9 @@ void GuardedBlock::Map(std::size_t byteCount) {
     Unmap();
     const std::size_t page = PageSize();
     const std::size_t inside = (byteCount / page + 1) * page;
-    void* const all =
-        mmap(nullptr, inside + 2 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (all == MAP_FAILED) throw std::bad_alloc();
-    first_ = static_cast<std::byte*>(all) + page;
+    first_ = MapGuarded(inside);
+    if (first_ == nullptr) throw std::bad_alloc();
     last_ = first_ + inside;
-    if (mprotect(first_, inside, PROT_READ | PROT_WRITE) != 0) throw std::bad_alloc();
 }
 
 std::byte* GuardedBlock::Place(std::size_t byteCount, Edge edge) {

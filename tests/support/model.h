@@ -3,8 +3,8 @@
 #define TARN_TESTS_SUPPORT_MODEL_H
 
 #include <algorithm>
-#include <gmpxx.h>
 
+#include "support/integer.h"
 #include "support/vec.h"
 
 namespace tarn::test {
@@ -28,25 +28,24 @@ inline Vec AllX(int width) {
 }
 
 // The storage read as a number that is not negative; X and Z bits count as 0.
-inline mpz_class ToInteger(const Vec& vec) {
-    mpz_class value;
+inline Integer ToInteger(const Vec& vec) {
+    Integer value;
     // From the top down, so that the number is allocated once.
     for (std::size_t i = vec.bits.size(); i-- > 0;) {
-        if (vec.bits[i] == Logic::k1) mpz_setbit(value.get_mpz_t(), i);
+        if (vec.bits[i] == Logic::k1) SetBit(value, i);
     }
     return value;
 }
 
 // A number modulo 2 to the power of the storage's bits, negative ones in two's complement.
-inline void AssignInteger(Vec& vec, const mpz_class& value) {
-    mpz_class low;
-    mpz_fdiv_r_2exp(low.get_mpz_t(), value.get_mpz_t(), vec.bits.size());
+inline void AssignInteger(Vec& vec, const Integer& value) {
+    const Integer low = LowBits(value, vec.bits.size());
     for (std::size_t i = 0; i < vec.bits.size(); ++i) {
-        vec.bits[i] = mpz_tstbit(low.get_mpz_t(), i) != 0 ? Logic::k1 : Logic::k0;
+        vec.bits[i] = HasBit(low, i) ? Logic::k1 : Logic::k0;
     }
 }
 
-inline Vec FromInteger(int width, const mpz_class& value) {
+inline Vec FromInteger(int width, const Integer& value) {
     Vec vec = Filled(width, Logic::k0);
     AssignInteger(vec, value);
     return vec;
