@@ -6,11 +6,16 @@
 // The compiler may lay out the variables of a file in any order; the data items have a stated one.
 // GCC keeps the order of variables that it is told not to move, Clang always keeps that of the
 // file; a section of their own keeps everything else from between them.
+#if defined(_WIN32)
+#define TARN_ITEMS_SECTION ".data$tarn_items"
+#else
+#define TARN_ITEMS_SECTION ".bss.tarn_items"
+#endif
 #if defined(__clang__)
-#define TARN_DATA_ITEM(name) [[gnu::section(".bss.tarn_items")]] std::uint64_t name = 0
+#define TARN_DATA_ITEM(name) [[gnu::section(TARN_ITEMS_SECTION)]] std::uint64_t name = 0
 #else
 #define TARN_DATA_ITEM(name) \
-    [[gnu::section(".bss.tarn_items"), gnu::no_reorder]] std::uint64_t name = 0
+    [[gnu::section(TARN_ITEMS_SECTION), gnu::no_reorder]] std::uint64_t name = 0
 #endif
 
 extern "C" {
