@@ -57,11 +57,16 @@ typedef void Shift(int, VectorWord*, int, const VectorWord*, unsigned);
  * holds is as good as any that is larger than the width. */
 static void shift_by_vector(Shift* shift, VectorWord* result, const VectorWord* source,
                             int amountWidth, const VectorWord* amount) {
-    const int scan = tarn_ScanShiftCount(amountWidth, amount);
-    if (scan == TARN_LOGIC_X) {
-        tarn_CleanBasedFillX(result, 80, 0);
-    } else {
-        shift(80, result, 80, source, scan == 0 ? amount[0].aval : UINT32_MAX);
+    switch (tarn_ScanShiftCount(amountWidth, amount)) {
+        case 0:
+            shift(80, result, 80, source, amount[0].aval);
+            break;
+        case 1:
+            shift(80, result, 80, source, UINT32_MAX);
+            break;
+        default:
+            tarn_CleanBasedFillX(result, 80, 0);
+            break;
     }
 }
 

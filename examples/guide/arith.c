@@ -34,6 +34,20 @@ static void Quotient(void) {
     //! [quotient]
 }
 
+static void Power(void) {
+    //! [power]
+    /* wire signed [39:0] y = b ** e;  reg signed [7:0] b = -3;  reg [7:0] e = 3; */
+    VectorWord b[1] = {{0xfffffffd, 0}}, e[1] = {{3, 0}}, y[2];
+    tarn_SignedUPower(40, y, 8, b, 8, e);
+    EXPECT_WORDS(y, {0xffffffe5, 0}, {0xffffffff, 0}); /* -27 */
+
+    /* reg signed [7:0] e = -1;  -- 1 divided by a number that is not 1 or -1 */
+    e[0].aval = 0xffffffff;
+    tarn_SignedSPower(40, y, 8, b, 8, e);
+    EXPECT_WORDS(y, {0, 0}, {0, 0});
+    //! [power]
+}
+
 static void Product(void) {
     //! [product]
     /* wire [63:0] y = a * b + c; -- the product in scratch space, and from there into the sum */
@@ -62,6 +76,7 @@ static void Step(void) {
 int main(void) {
     Sum();
     Quotient();
+    Power();
     Product();
     Step();
     return failureCount;
