@@ -119,7 +119,9 @@ TEST(Real, IsFormattedAtAnyLength) {
     EXPECT_STREQ(tarn_ConvertToStringR("%g", -1234.5678), "-1234.57");
     EXPECT_STREQ(tarn_ConvertToStringR("[%12.4e]", 0.5), "[  5.0000e-01]");
     // Longer than the room that is usual.
-    EXPECT_EQ(tarn_ConvertToStringR("%5000.1f", 1.5), std::string(4997, ' ') + "1.5");
+    std::string padded(4997, ' ');
+    padded += "1.5";
+    EXPECT_EQ(tarn_ConvertToStringR("%5000.1f", 1.5), padded);
 }
 
 }  // namespace
