@@ -13,7 +13,7 @@ set(CPACK_TARNLIB_DATE "${TARNLIB_DATE}")
 
 set(CPACK_PACKAGE_NAME tarnlib)
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
-set(CPACK_PACKAGE_CONTACT "The tarnlib developers <tarnlib@example.org>")
+set(CPACK_PACKAGE_CONTACT "The tarnlib authors <tarnlib@example.org>")
 # Each description below has a summary of its own as its first line.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 

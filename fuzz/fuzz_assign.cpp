@@ -1,6 +1,4 @@
 // What is written into vectors and into memory words, and what is read from those.
-#include <iterator>
-
 #include <tarnlib/assign.h>
 #include <tarnlib/memory.h>
 
@@ -220,7 +218,5 @@ constexpr void (*kCalls[])(Input&) = {WriteField, WriteIndexedField, Compare,   
 }  // namespace tarn::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    tarn::fuzz::Input in(data, size);
-    tarn::fuzz::kCalls[in.Byte() % std::size(tarn::fuzz::kCalls)](in);
-    return 0;
+    return tarn::fuzz::RunOneOf(tarn::fuzz::kCalls, data, size);
 }

@@ -167,7 +167,5 @@ constexpr void (*kCalls[])(Input&) = {WriteDigits, WriteDecimal,       WriteChar
 }  // namespace tarn::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    tarn::fuzz::Input in(data, size);
-    tarn::fuzz::kCalls[in.Byte() % std::size(tarn::fuzz::kCalls)](in);
-    return 0;
+    return tarn::fuzz::RunOneOf(tarn::fuzz::kCalls, data, size);
 }

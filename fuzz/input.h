@@ -94,6 +94,14 @@ inline std::string Input::Rest() {
     return {begin, end_};
 }
 
+// For a target of several calls: the first byte chooses one, which takes what follows.
+template <std::size_t kCount>
+int RunOneOf(void (*const (&calls)[kCount])(Input&), const std::uint8_t* data, std::size_t size) {
+    Input in(data, size);
+    calls[in.Byte() % kCount](in);
+    return 0;
+}
+
 /*------------------------------------------------------------------------------------------------
  * Checks
  *----------------------------------------------------------------------------------------------*/
