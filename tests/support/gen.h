@@ -1,35 +1,38 @@
-// Random operands: hard widths, runs of equal bits, clean and dirty top words. Each run of a
-// property has its own seed, which a failure prints and which replays that run alone.
+// Random operands: hard widths, runs of equal bits, clean and dirty top words. What is drawn comes
+// from a seed, which a failure prints and which replays that run alone, or from a fuzzer's input.
 #ifndef TARN_TESTS_SUPPORT_GEN_H
 #define TARN_TESTS_SUPPORT_GEN_H
 
 #include <cstdint>
+#include <iterator>
 #include <sstream>
 #include <string>
-#include <utility>
 
 #include "support/vec.h"
 
 namespace tarn::test {
 
-struct OneOperandDraw {
-    int width;
-    Vec a;
-};
-struct TwoOperandDraw {
-    int width;
-    Vec a, b;
-};
-
 class Gen {
   public:
     explicit Gen(std::uint64_t seed) : seed_(seed), state_(seed) { isWide_ = OneIn(1000); }
+    // All draws come from the front of the bytes; zeros follow the last one.
+    Gen(const std::uint8_t* data, std::size_t size) : next_(data), end_(data + size) {
+        isWide_ = OneIn(1000);
+    }
 
     std::uint64_t Seed() const { return seed_; }
-    std::uint64_t Bits();
-    int Below(int bound) { return static_cast<int>(Bits() % static_cast<std::uint64_t>(bound)); }
+    std::uint64_t Bits() { return Take(8); }
+    int Below(int bound) {
+        const unsigned bytes = bound <= 16 ? 1 : bound <= 0x4000 ? 2 : 5;
+        return static_cast<int>(Take(bytes) % static_cast<std::uint64_t>(bound));
+    }
     int Between(int least, int most) { return least + Below(most - least + 1); }
-    bool OneIn(int count) { return Below(count) == 0; }
+    // Not where an input has ended: what is rare has bytes of its own.
+    bool OneIn(int count) { return Below(count) == count - 1; }
+    template <class List>
+    const auto& Pick(const List& list) {
+        return *(std::begin(list) + Below(static_cast<int>(std::size(list))));
+    }
 
     // At least 1: mostly at the edges of words and blocks of words; thousands of words in a run
     // that was chosen to be wide.
@@ -42,10 +45,12 @@ class Gen {
     // Unknown bits are as common as known ones.
     Vec FourState(int width);
 
-    // Widths are often equal; two operands are sometimes the same words, so that they can share
-    // storage.
-    OneOperandDraw OneOperand(bool fourState = false);
-    TwoOperandDraw TwoOperands(bool fourState = false);
+    // What is left of an input; from a seed, what `draw` returns.
+    template <class Draw>
+    std::string Text(Draw draw) {
+        if (next_ == nullptr) return draw();
+        return {reinterpret_cast<const char*>(next_), static_cast<std::size_t>(end_ - next_)};
+    }
 
     // One line that replays the run and says what it worked on.
     template <class... Values>
@@ -57,18 +62,22 @@ class Gen {
     }
 
   private:
+    // A number of so many bytes.
+    std::uint64_t Take(unsigned byteCount);
     std::string Replay() const;
     int RunLength();
     void AddRuns(Vec& vec, unsigned weight);
     Vec WithTop(Vec vec);
 
-    std::uint64_t seed_;
-    std::uint64_t state_;
+    std::uint64_t seed_ = 0;
+    std::uint64_t state_ = 0;
+    const std::uint8_t* next_ = nullptr;
+    const std::uint8_t* end_ = nullptr;
     bool isWide_ = false;
 };
 
 // for (Gen& gen : Seeds(kRuns)) runs the body once with each seed from 1 on; TARNLIB_SEED sets the
-// first seed and TARNLIB_RUNS the number.
+// first seed, TARNLIB_RUNS what kRuns is.
 class Seeds {
   public:
     explicit Seeds(int count);

@@ -1,32 +1,108 @@
-// A row of a table of exports: property tests are written once for all exports of a pattern.
+// A row of the list of properties: an export, its model and how its operands are drawn. The same
+// rows serve the tests, the reruns on instruction sets, the checked build and the fuzz targets; a
+// property says what differs and asserts nothing itself.
 #ifndef TARN_TESTS_SUPPORT_PROPERTY_H
 #define TARN_TESTS_SUPPORT_PROPERTY_H
 
-#include <gtest/gtest.h>
-#include <ostream>
+#include <functional>
 #include <string>
+#include <tuple>
+#include <vector>
 
-#include "support/call.h"
+#include "support/case.h"
 #include "support/gen.h"
+#include "support/model.h"
 
 namespace tarn::test {
 
-template <class Function, class Model>
-struct Export {
+struct Property {
+    std::string name;  // the export's, and a word more where that has several rows
+    std::function<Case(Gen&)> draw;
+    int runs = kRuns;
+};
+using Properties = std::vector<Property>;
+
+// `random` compares with models; `known` gives rows by hand, one for each convention that a model
+// repeats without showing it.
+struct Family {
     const char* name;
-    Function* function;
-    Model* model;
+    Properties random;
+    Properties (*known)();
+};
+const std::vector<Family>& AllFamilies();
 
-    friend std::ostream& operator<<(std::ostream& out, const Export& row) {
-        return out << row.name;
-    }
+// What is drawn is the list of a call's arguments, and the model takes the same. What the model
+// gives stands in front of them: a vector of a width, or a real; else it is what the export returns.
+struct Width {
+    Width(int width) : bits(width) {}
+    operator int() const { return bits; }
+    int bits;
+};
+struct ToReal {};
+struct InPlace {
+    Vec v;
 };
 
-// Names the instances of a test after their exports, without the prefix that all share.
-inline constexpr auto kExportName = [](const auto& info) {
-    const std::string name = info.param.name;
-    return name.substr(name.find('_') + 1);
-};
+using One = std::tuple<Width, Vec>;
+using Two = std::tuple<Width, Vec, Vec>;
+using Only = std::tuple<Vec>;
+using Pair = std::tuple<Vec, Vec>;
+
+template <class... Drawn>
+Case CaseOf(auto* function, auto model, const std::tuple<Drawn...>& drawn) {
+    const auto call = [&](const auto&... values) { return Case(function, values...); };
+    return std::apply(call, drawn).Returns(std::apply(model, drawn));
+}
+template <class Returned, class... Parameters>
+constexpr bool ReturnsNothing(Returned (* /*function*/)(Parameters...)) {
+    return std::is_void_v<Returned>;
+}
+// Parsers return false whatever they have read.
+template <class... Drawn>
+Case CaseOf(auto* function, auto model, const std::tuple<Width, Drawn...>& drawn) {
+    const Party result = Result(std::apply(model, drawn));
+    const auto call = [&](Width width, const auto&... rest) {
+        return Case(function, width.bits, result, rest...);
+    };
+    return ReturnsNothing(function) ? std::apply(call, drawn)
+                                    : std::apply(call, drawn).Returns(false);
+}
+template <class... Drawn>
+Case CaseOf(auto* function, auto model, const std::tuple<ToReal, Drawn...>& drawn) {
+    return std::apply(
+        [&](ToReal, const auto&... rest) {
+            return Case(function, RealResult(model(rest...)), rest...);
+        },
+        drawn);
+}
+Case CaseOf(auto* function, auto model, const InPlace& drawn) {
+    return Case(function, drawn.v.width, Target(drawn.v, model(drawn.v)));
+}
+
+template <class Function, class Model, class Draw>
+Property Row(const char* name, Function* function, Model model, Draw draw, int runs = kRuns) {
+    return {name, [=](Gen& gen) { return CaseOf(function, model, draw(gen)); }, runs};
+}
+template <class Function, class Drawn, class Expected>
+Property Known(const char* name, Function* function, const Drawn& drawn, const Expected& expected) {
+    const auto model = [expected](const auto&...) { return expected; };
+    return Row(
+        name, function, model, [drawn](Gen&) { return drawn; }, 1);
+}
+// Rows by the export's name alone.
+#define TARN_ROW(name, ...) Row(#name, name, __VA_ARGS__)
+#define TARN_KNOWN(name, ...) Known(#name, name, __VA_ARGS__)
+
+// Widths are often equal; two operands are sometimes the same words, so that they can share
+// storage.
+One DrawOneOperand(Gen& gen, bool fourState = false);
+Two DrawTwoOperands(Gen& gen, bool fourState = false);
+
+// A width that the build under test has an answer for: where width 1 is the least, the checked one
+// reports others.
+inline int DrawDefinedWidth(Gen& gen) {
+    return kIsChecked ? gen.Width() : gen.AnyWidth();
+}
 
 }  // namespace tarn::test
 
