@@ -8,10 +8,9 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tarn::test;
-    static const Family& family =
-        *std::find_if(AllFamilies().begin(), AllFamilies().end(), [](const Family& any) {
-            return any.name == std::string_view(TARN_FUZZ_FAMILY);
-        });
+    static const Family& family = *std::find_if(
+        AllFamilies().begin(), AllFamilies().end(),
+        [](const Family& any) { return any.name == std::string_view(TARN_FUZZ_FAMILY); });
     Gen gen(data, size);
     const Property& property = gen.Pick(family.random);
     const auto storage = static_cast<std::size_t>(gen.Below(256));

@@ -28,9 +28,8 @@ class AllHold : public testing::Test {
     explicit AllHold(const Family& family) : family_(family) {}
 
     void TestBody() override {
-        for (const Property& row : family_.known()) {
-            Gen gen(0);
-            EXPECT_EQ(Difference(row.draw(gen)), "") << row.name;
+        for (const Case& known : family_.known()) {
+            EXPECT_EQ(Difference(known), "") << known.Name();
         }
     }
 

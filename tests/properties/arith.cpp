@@ -185,49 +185,44 @@ Properties Random() {
     };
 }
 
-Properties ByHand() {
+std::vector<Case> ByHand() {
     const Vec ones = "32'hffffffff"_v, two = "32'h2"_v, minusTwo = "32'hfffffffe"_v,
               one = "32'h1"_v;
+    const Vec a = "100'h123456789abcdef0123456789"_v, b = "100'hfedcba9876543210fedcba987"_v;
+    Party both = Target(a, Product<kZero>(100, a, b));
+    both.fixed = tarn_VectorRegister;
     const Vec minusSeven = "32'hfffffff9"_v, seven = "32'h7"_v, zero = "32'h0"_v;
     return {
         // The top word holds the whole word's sum.
-        TARN_KNOWN(tarn_UnsignedAdd, Two{8, "8'hff"_v, "8'h01"_v}, Words(8, {{0x100, 0}})),
-        TARN_KNOWN(tarn_UnsignedSub, Two{8, "8'h00"_v, "8'h01"_v}, Words(8, {{~0U, 0}})),
-        TARN_KNOWN(tarn_Inc, InPlace{"40'hffffffffff"_v}, Words(40, {{0, 0}, {0x100, 0}})),
-        TARN_KNOWN(tarn_Dec, InPlace{"16'h0"_v}, Words(16, {{~0U, 0}})),
+        TARN_CALL(tarn_UnsignedAdd, 8, Result(Words(8, {{0x100, 0}})), "8'hff"_v, "8'h01"_v),
+        TARN_CALL(tarn_UnsignedSub, 8, Result(Words(8, {{~0U, 0}})), "8'h00"_v, "8'h01"_v),
+        TARN_CALL(tarn_Inc, 40, Target("40'hffffffffff"_v, Words(40, {{0, 0}, {0x100, 0}}))),
+        TARN_CALL(tarn_Dec, 16, Target("16'h0"_v, Words(16, {{~0U, 0}}))),
         // Bit 31 of the top word is the sign.
-        TARN_KNOWN(tarn_SignedAdd, Two{64, "8'hff"_v, "64'h5"_v}, "64'h104"_v),
-        TARN_KNOWN(tarn_SignedPlus, One{64, "32'h80000000"_v}, "64'hffffffff80000000"_v),
+        TARN_CALL(tarn_SignedAdd, 64, Result("64'h104"_v), "8'hff"_v, "64'h5"_v),
+        TARN_CALL(tarn_SignedPlus, 64, Result("64'hffffffff80000000"_v), "32'h80000000"_v),
         // Unknown bits count above the width and above the result.
-        TARN_KNOWN(tarn_SignedAdd, Two{8, "64'hz0000000000"_v, "8'h00"_v}, AllX(8)),
-        TARN_KNOWN(tarn_UnsignedAdd, Two{40, "40'h1"_v, Words(8, {{0, 0x100}})}, AllX(40)),
-        TARN_KNOWN(tarn_UnsignedMul, Two{8, "64'hz0000000000"_v, "8'h00"_v}, AllX(8)),
+        TARN_CALL(tarn_SignedAdd, 8, Result(AllX(8)), "64'hz0000000000"_v, "8'h00"_v),
+        TARN_CALL(tarn_UnsignedAdd, 40, Result(AllX(40)), "40'h1"_v, Words(8, {{0, 0x100}})),
+        TARN_CALL(tarn_UnsignedMul, 8, Result(AllX(8)), "64'hz0000000000"_v, "8'h00"_v),
         // An empty operand is 0; as a divisor it gives X.
-        TARN_KNOWN(tarn_UnsignedSub, Two{40, Vec{}, Vec{-1, {}}}, "40'h0"_v),
-        TARN_KNOWN(tarn_UnsignedMod, Two{40, "40'h5"_v, Vec{}}, AllX(40)),
-        TARN_KNOWN(tarn_UnsignedDiv, Two{40, "40'h5"_v, zero}, AllX(40)),
+        TARN_CALL(tarn_UnsignedSub, 40, Result("40'h0"_v), Vec{}, Vec{-1, {}}),
+        TARN_CALL(tarn_UnsignedMod, 40, Result(AllX(40)), "40'h5"_v, Vec{}),
+        TARN_CALL(tarn_UnsignedDiv, 40, Result(AllX(40)), "40'h5"_v, zero),
         // Quotients are cut toward zero; what the result has no words for is dropped.
-        TARN_KNOWN(tarn_SignedDiv, Two{32, minusSeven, two}, "32'hfffffffd"_v),
-        TARN_KNOWN(tarn_SignedMod, Two{32, minusSeven, two}, ones),
-        TARN_KNOWN(tarn_SignedMod, Two{32, seven, minusTwo}, one),
-        TARN_KNOWN(tarn_SignedDiv, Two{32, "32'h80000000"_v, ones}, "32'h80000000"_v),
-        TARN_KNOWN(tarn_UnsignedDiv, Two{32, "64'h10000000000000"_v, "32'h100000"_v}, zero),
+        TARN_CALL(tarn_SignedDiv, 32, Result("32'hfffffffd"_v), minusSeven, two),
+        TARN_CALL(tarn_SignedMod, 32, Result(ones), minusSeven, two),
+        TARN_CALL(tarn_SignedMod, 32, Result(one), seven, minusTwo),
+        TARN_CALL(tarn_SignedDiv, 32, Result("32'h80000000"_v), "32'h80000000"_v, ones),
+        TARN_CALL(tarn_UnsignedDiv, 32, Result(zero), "64'h10000000000000"_v, "32'h100000"_v),
         // Powers: which exponents are negative, and what they make of 0, 1 and -1.
-        TARN_KNOWN(tarn_UnsignedUPower, Two{32, zero, Words(4, {{0x10, 0}})}, one),
-        TARN_KNOWN(tarn_SignedSPower, Two{32, two, "8'shff"_v}, zero),
-        TARN_KNOWN(tarn_SignedSPower, Two{40, ones, "8'shfd"_v}, Words(40, {{~0U, 0}, {~0U, 0}})),
-        TARN_KNOWN(tarn_SignedSPower, Two{32, zero, "8'shff"_v}, AllX(32)),
-        TARN_KNOWN(tarn_UnsignedSPower, Two{32, ones, "8'shff"_v}, zero),
+        TARN_CALL(tarn_UnsignedUPower, 32, Result(one), zero, Words(4, {{0x10, 0}})),
+        TARN_CALL(tarn_SignedSPower, 32, Result(zero), two, "8'shff"_v),
+        TARN_CALL(tarn_SignedSPower, 40, Result(Words(40, {{~0U, 0}, {~0U, 0}})), ones, "8'shfd"_v),
+        TARN_CALL(tarn_SignedSPower, 32, Result(AllX(32)), zero, "8'shff"_v),
+        TARN_CALL(tarn_UnsignedSPower, 32, Result(zero), ones, "8'shff"_v),
         // The first operand may lie in the shared register, the result too.
-        {"tarn_UnsignedMul in the register",
-         [](Gen&) {
-             const Vec a = "100'h123456789abcdef0123456789"_v,
-                       b = "100'hfedcba9876543210fedcba987"_v;
-             Party both = Target(a, Product<kZero>(100, a, b));
-             both.fixed = tarn_VectorRegister;
-             return Case(tarn_UnsignedMul, 100, both, 100, Again{0}, b);
-         },
-         1},
+        TARN_CALL(tarn_UnsignedMul, 100, both, 100, Again{0}, b),
     };
 }
 

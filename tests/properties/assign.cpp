@@ -6,35 +6,29 @@
 namespace tarn::test {
 namespace {
 
-struct InnerWrite : Write {};
-struct IndexedWrite : Write {};
-
 // The value begins below the word at the target where it is the vector that the field lies in.
-Case CaseOf(auto* function, auto model, const InnerWrite& drawn) {
-    const auto& [target, index, width, value] = drawn;
-    const Vec written = model(target, value, index, width);
-    const std::size_t word = static_cast<std::size_t>(index) / 32 * sizeof(VectorWord);
-    return WithFlag(
-        function,
-        Case(function, At(Target(target, written), word), Operand(value), index % 32, width),
-        written != target);
-}
-Case CaseOf(auto* function, auto model, const IndexedWrite& drawn) {
-    const auto& [target, index, width, value] = drawn;
-    const Vec written = model(target, value, index, width);
-    return WithFlag(
-        function,
-        Case(function, target.width, Target(target, written), Operand(value), index, width),
-        written != target);
+Property Inner(const char* name, auto* function) {
+    return {name, [=](Gen& gen) {
+                const auto [target, index, width, value] = DrawInnerWrite(gen, gen.Width());
+                const Vec written = WithField(target, value, index, width);
+                const std::size_t word = static_cast<std::size_t>(index) / 32 * sizeof(VectorWord);
+                const Party place = At(Target(target, written), word);
+                return WithFlag(function, Case(function, place, Operand(value), index % 32, width),
+                                written != target);
+            }};
 }
 
-InnerWrite DrawInner(Gen& gen) {
-    return {DrawInnerWrite(gen, gen.Width())};
-}
-
-// A field of many words in which one bit changes.
-IndexedWrite DrawIndexed(Gen& gen) {
-    return {DrawWrite(gen, gen.OneIn(8) ? gen.Between(500, 1000) : DrawDefinedWidth(gen))};
+Property Indexed(const char* name, auto* function) {
+    return {
+        name, [=](Gen& gen) {
+            const int targetWidth = gen.OneIn(8) ? gen.Between(500, 1000) : DrawDefinedWidth(gen);
+            const auto [target, index, width, value] = DrawWrite(gen, targetWidth);
+            const Vec written = WithField(target, value, index, width);
+            return WithFlag(
+                function,
+                Case(function, target.width, Target(target, written), Operand(value), index, width),
+                written != target);
+        }};
 }
 
 }  // namespace
@@ -42,10 +36,10 @@ IndexedWrite DrawIndexed(Gen& gen) {
 Family AssignFamily() {
     return {"Assign",
             {
-                TARN_ROW(tarn_PartselectAssign, WithField, DrawInner),
-                TARN_ROW(tarn_NotIdenticalPartselectAssign, WithField, DrawInner),
-                TARN_ROW(tarn_IndexedPartselectAssign, WithField, DrawIndexed),
-                TARN_ROW(tarn_NotIdenticalIndexedPartselectAssign, WithField, DrawIndexed),
+                TARN_ROW_OF(Inner, tarn_PartselectAssign),
+                TARN_ROW_OF(Inner, tarn_NotIdenticalPartselectAssign),
+                TARN_ROW_OF(Indexed, tarn_IndexedPartselectAssign),
+                TARN_ROW_OF(Indexed, tarn_NotIdenticalIndexedPartselectAssign),
             },
             nullptr};
 }

@@ -55,22 +55,16 @@ std::string Create(const char* size, const char* text, int* width, VectorWord* s
     return isSigned ? "signed" : "unsigned";
 }
 
-Case CaseOf(auto* function, auto model, const Literal& drawn) {
-    const Created created = model(drawn);
+Case CaseOf(const Literal& literal, const Created& created) {
     const std::uint64_t byteCount = WordCount(created.value.width) * sizeof(VectorWord);
-    const auto truncated = static_cast<unsigned char>(created.truncated);
-    const Party size = Text(drawn.size.value_or("") + '\0'), text = Text(drawn.text + '\0');
+    const Party truncated = NumberResult(static_cast<unsigned char>(created.truncated));
     const Party width = NumberResult(created.value.width), value = Result(created.value);
-    const char* const returned = created.isSigned ? "signed" : "unsigned";
-    if (!drawn.size) {
-        return Case(function, Null{}, text, width, value, byteCount, NumberResult(truncated))
-            .Returns(returned);
-    }
-    if (!drawn.wantsTruncated) {
-        return Case(function, size, text, width, value, byteCount, Null{}).Returns(returned);
-    }
-    return Case(function, size, text, width, value, byteCount, NumberResult(truncated))
-        .Returns(returned);
+    const auto call = [&](auto size, auto flag) {
+        return Case(Create, size, literal.text, width, value, byteCount, flag)
+            .Returns(created.isSigned ? "signed" : "unsigned");
+    };
+    if (!literal.size) return call(Null{}, truncated);
+    return literal.wantsTruncated ? call(*literal.size, truncated) : call(*literal.size, Null{});
 }
 
 /*------------------------------------------------------------------------------------------------
@@ -202,7 +196,7 @@ Literal DrawLiteral(Gen& gen) {
     return literal;
 }
 
-Properties ByHand() {
+std::vector<Case> ByHand() {
     constexpr auto kNoSize = std::nullopt;
     const std::string hexDigits(2'500'001, 'e'), octalDigits(3'333'334, '7');
     const std::string last(TARN_MAX_LITERAL_CHARACTERS - 1, 'b');
@@ -237,10 +231,9 @@ Properties ByHand() {
         {{kNoSize, "\"a" + last + '"'}, Unsigned(Words(10'000'000, words))},
         {{kNoSize, "\"-\\141" + last + '"'}, Unsigned(Words(10'000'000, words), 1)},
     };
-    Properties known;
+    std::vector<Case> known;
     for (const auto& [literal, created] : rows) {
-        known.push_back(Known(("tarn_CreateVector " + literal.text.substr(0, 30)).c_str(), Create,
-                              literal, created));
+        known.push_back(CaseOf(literal, created).Named(literal.text.substr(0, 30).c_str()));
     }
     return known;
 }
@@ -248,7 +241,11 @@ Properties ByHand() {
 }  // namespace
 
 Family LiteralFamily() {
-    return {"Literal", {Row("tarn_CreateVector", Create, LiteralValue, DrawLiteral)}, ByHand};
+    const auto draw = [](Gen& gen) {
+        const Literal literal = DrawLiteral(gen);
+        return CaseOf(literal, LiteralValue(literal));
+    };
+    return {"Literal", {{"tarn_CreateVector", draw}}, ByHand};
 }
 
 }  // namespace tarn::test

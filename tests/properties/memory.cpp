@@ -26,149 +26,109 @@ Party Register(const Vec& left) {
     return party;
 }
 
-struct Unpacking {
-    int width;
-    Vec stored;
-};
-
-Unpacking DrawUnpacking(Gen& gen) {
-    Vec stored = gen.FourState(DrawDefinedWidth(gen));
-    const int width = gen.OneIn(2) ? stored.width : gen.AnyWidth();
-    return {width, std::move(stored)};
-}
-
 // The word that holds the top bit is extended above it.
-template <Extension extension>
-Vec Unpacked(int width, const Vec& stored) {
-    if (stored.width < 1) return Vec{};
-    return Extended(extension == kSign ? SignFilled(stored) : Clean(stored), width, extension);
-}
-
-Case CaseOf(auto* function, auto model, const Unpacking& drawn) {
-    const auto& [width, stored] = drawn;
-    const int spare = static_cast<int>(-static_cast<unsigned>(stored.width) & 31U);
-    return Case(function, width, Result(model(width, stored)), stored.width, Memory(Packed(stored)),
-                spare)
-        .With(Register(Vec{}));
+Property Unpacking(const char* name, auto* function, Extension extension) {
+    return {name, [=](Gen& gen) {
+                const Vec stored = gen.FourState(DrawDefinedWidth(gen));
+                const int width = gen.OneIn(2) ? stored.width : gen.AnyWidth();
+                const int spare = static_cast<int>(-static_cast<unsigned>(stored.width) & 31U);
+                const Vec filled = extension == kSign ? SignFilled(stored) : Clean(stored);
+                const Vec wide = stored.width < 1 ? Vec{} : Extended(filled, width, extension);
+                return Case(function, width, Result(wide), stored.width, Memory(Packed(stored)),
+                            spare)
+                    .With(Register(Vec{}));
+            }};
 }
 
 // What the memory word holds before the call is often the value, or differs from it in one bit.
-struct Packing {
-    Vec value;
-    Bytes before;
-};
-
-Packing DrawPacking(Gen& gen) {
-    Vec value = gen.FourState(DrawDefinedWidth(gen));
-    Bytes before = Packed(gen.OneIn(2) ? value : gen.FourState(value.width));
-    if (gen.OneIn(2) && !before.empty()) {
-        before[gen.Bits() % before.size()] ^= static_cast<std::uint8_t>(1U << gen.Below(8));
-    }
-    return {std::move(value), std::move(before)};
-}
-
-Case CaseOf(auto* function, auto model, const Packing& drawn) {
-    const auto& [value, before] = drawn;
-    const Bytes after = model(value);
-    return WithFlag(function,
-                    Case(function, value.width, MemoryTarget(before, after), Operand(value))
-                        .With(Register(Vec{})),
-                    after != before);
+Property Packing(const char* name, auto* function) {
+    return {
+        name, [=](Gen& gen) {
+            const Vec value = gen.FourState(DrawDefinedWidth(gen));
+            const Bytes after = Packed(value);
+            Bytes before = gen.OneIn(2) ? after : Packed(gen.FourState(value.width));
+            if (gen.OneIn(2) && !before.empty()) {
+                before[gen.Bits() % before.size()] ^= static_cast<std::uint8_t>(1U << gen.Below(8));
+            }
+            return WithFlag(function,
+                            Case(function, value.width, MemoryTarget(before, after), Operand(value))
+                                .With(Register(Vec{})),
+                            after != before);
+        }};
 }
 
 // Where there is neither a memory word nor a field, nothing happens.
-bool IsEmpty(const Write& drawn) {
-    return drawn.target.width < 1 || drawn.width < 1;
-}
-
-struct MemoryRead : Write {};
-
-Case CaseOf(auto* function, auto model, const MemoryRead& drawn) {
-    const auto& [stored, index, width, unused] = drawn;
-    const bool isEmpty = IsEmpty(drawn);
-    return Case(function, Result(isEmpty ? Vec{} : model(stored, index, width)), stored.width,
+Case ReadField(auto* function, const Vec& stored, int index, int width) {
+    const bool isEmpty = stored.width < 1 || width < 1;
+    return Case(function, Result(isEmpty ? Vec{} : Field(stored, index, width)), stored.width,
                 Memory(Packed(stored)), index, width)
         .With(Register(isEmpty ? Vec{} : Clean(stored)));
 }
 
-struct MemoryWrite : Write {
-    bool usesRegister;
-};
+Case ReadInner(Gen& gen) {
+    const Write drawn = DrawInnerWrite(gen, DrawDefinedWidth(gen));
+    return ReadField(tarn_MemoryWordPartselect, drawn.target, drawn.index, drawn.width);
+}
+Case ReadIndexed(Gen& gen) {
+    const Vec stored = gen.FourState(DrawDefinedWidth(gen));
+    const int width = DrawDefinedWidth(gen), index = DrawIndex(gen, stored.width, width);
+    return ReadField(tarn_MemoryWordIndexedPartselect, stored, index, width);
+}
 
 // A field that lies outside is not written, and leaves the spare bits; one that is clears them.
-Case CaseOf(auto* function, auto model, const MemoryWrite& drawn) {
-    const auto& [stored, index, width, value] = static_cast<const Write&>(drawn);
-    const Vec left = IsEmpty(drawn) ? Vec{} : model(Clean(stored), value, index, width);
-    const Bytes before = Packed(stored);
-    const Bytes after = HasBitInside(stored.width, index, width) ? Packed(left) : before;
-    return WithFlag(
-        function,
-        Case(function, stored.width, MemoryTarget(before, after), Operand(value), index, width)
-            .With(Register(drawn.usesRegister ? left : Vec{})),
-        after != before);
-}
-
-MemoryRead DrawInnerRead(Gen& gen) {
-    return {DrawInnerWrite(gen, DrawDefinedWidth(gen))};
-}
-MemoryRead DrawIndexedRead(Gen& gen) {
-    const int width = DrawDefinedWidth(gen);
-    Vec stored = gen.FourState(DrawDefinedWidth(gen));
-    const int index = DrawIndex(gen, stored.width, width);
-    return {{std::move(stored), index, width, Vec{}}};
-}
-
-MemoryWrite DrawInner(Gen& gen) {
-    return {DrawInnerWrite(gen, DrawDefinedWidth(gen)), true};
-}
-MemoryWrite DrawIndexed(Gen& gen) {
-    return {DrawWrite(gen, DrawDefinedWidth(gen)), true};
-}
-MemoryWrite DrawShortInner(Gen& gen) {
-    return {DrawInnerWrite(gen, gen.Between(kIsChecked ? 1 : -1, 32)), false};
-}
-MemoryWrite DrawShortIndexed(Gen& gen) {
-    return {DrawWrite(gen, gen.Between(kIsChecked ? 1 : -1, 32)), false};
+// Short memory words leave the register alone.
+Property Writing(const char* name, auto* function, Write (*draw)(Gen&, int), bool isShort) {
+    return {name, [=](Gen& gen) {
+                const auto [stored, index, width, value] = draw(
+                    gen, isShort ? gen.Between(kIsChecked ? 1 : -1, 32) : DrawDefinedWidth(gen));
+                const bool isEmpty = stored.width < 1 || width < 1;
+                const Vec left = isEmpty ? Vec{} : WithField(Clean(stored), value, index, width);
+                const Bytes before = Packed(stored);
+                const Bytes after =
+                    HasBitInside(stored.width, index, width) ? Packed(left) : before;
+                return WithFlag(function,
+                                Case(function, stored.width, MemoryTarget(before, after),
+                                     Operand(value), index, width)
+                                    .With(Register(isShort ? Vec{} : left)),
+                                after != before);
+            }};
 }
 
 Properties Random() {
+    constexpr auto kInner = DrawInnerWrite, kAny = DrawWrite;
     return {
-        TARN_ROW(tarn_UnsignedCopyMemoryValue, Unpacked<kZero>, DrawUnpacking),
-        TARN_ROW(tarn_SignedCopyMemoryValue, Unpacked<kSign>, DrawUnpacking),
-        TARN_ROW(tarn_MemoryWordAssign, Packed, DrawPacking),
-        TARN_ROW(tarn_NotIdenticalMemoryWordAssign, Packed, DrawPacking),
-        TARN_ROW(tarn_MemoryWordPartselect, Field, DrawInnerRead),
-        TARN_ROW(tarn_MemoryWordIndexedPartselect, Field, DrawIndexedRead),
-        TARN_ROW(tarn_MemoryWordPartselectAssign, WithField, DrawInner),
-        TARN_ROW(tarn_NotIdenticalMemoryWordPartselectAssign, WithField, DrawInner),
-        TARN_ROW(tarn_MemoryWordIndexedPartselectAssign, WithField, DrawIndexed),
-        TARN_ROW(tarn_NotIdenticalMemoryWordIndexedPartselectAssign, WithField, DrawIndexed),
-        TARN_ROW(tarn_MemoryWordPartselectAssign1, WithField, DrawShortInner),
-        TARN_ROW(tarn_NotIdenticalMemoryWordPartselectAssign1, WithField, DrawShortInner),
-        TARN_ROW(tarn_MemoryWordIndexedPartselectAssign1, WithField, DrawShortIndexed),
-        TARN_ROW(tarn_NotIdenticalMemoryWordIndexedPartselectAssign1, WithField, DrawShortIndexed),
+        TARN_ROW_OF(Unpacking, tarn_UnsignedCopyMemoryValue, kZero),
+        TARN_ROW_OF(Unpacking, tarn_SignedCopyMemoryValue, kSign),
+        TARN_ROW_OF(Packing, tarn_MemoryWordAssign),
+        TARN_ROW_OF(Packing, tarn_NotIdenticalMemoryWordAssign),
+        {"tarn_MemoryWordPartselect", ReadInner},
+        {"tarn_MemoryWordIndexedPartselect", ReadIndexed},
+        TARN_ROW_OF(Writing, tarn_MemoryWordPartselectAssign, kInner, false),
+        TARN_ROW_OF(Writing, tarn_NotIdenticalMemoryWordPartselectAssign, kInner, false),
+        TARN_ROW_OF(Writing, tarn_MemoryWordIndexedPartselectAssign, kAny, false),
+        TARN_ROW_OF(Writing, tarn_NotIdenticalMemoryWordIndexedPartselectAssign, kAny, false),
+        TARN_ROW_OF(Writing, tarn_MemoryWordPartselectAssign1, kInner, true),
+        TARN_ROW_OF(Writing, tarn_NotIdenticalMemoryWordPartselectAssign1, kInner, true),
+        TARN_ROW_OF(Writing, tarn_MemoryWordIndexedPartselectAssign1, kAny, true),
+        TARN_ROW_OF(Writing, tarn_NotIdenticalMemoryWordIndexedPartselectAssign1, kAny, true),
     };
 }
 
-// The widest memory word fills the register.
-Case WidestWrite(Gen& /*gen*/) {
+std::vector<Case> ByHand() {
+    // The widest memory word fills the register.
     constexpr int kWidest = 32 * TARN_VECTOR_REGISTER_WORDS;
     const Bytes before(std::size_t{kWidest} / 4, 0x5A);
     Bytes after = before;
     std::fill_n(after.begin() + kWidest / 8 - 5, 5, 0xFF);
     std::fill_n(after.end() - 5, 4, 0);
     after.back() = 0xFF;
-    return Case(tarn_NotIdenticalMemoryWordPartselectAssign, kWidest, MemoryTarget(before, after),
-                Operand(Words(40, {{0xFFFFFFFF, 0}, {0xFF, 0xFF}})), kWidest - 40, 40)
-        .Returns(1);
-}
-
-Properties ByHand() {
     return {
+        TARN_CALL(tarn_NotIdenticalMemoryWordPartselectAssign, kWidest, MemoryTarget(before, after),
+                  Operand(Words(40, {{~0U, 0}, {0xFF, 0xFF}})), kWidest - 40, 40)
+            .Returns(1),
         // Bytes of aval, then of bval, the lowest first.
-        TARN_KNOWN(tarn_MemoryWordAssign, Packing{Words(10, {{0x2A5, 0x1}}), Bytes(4, 0xFF)},
-                   Bytes{0xA5, 0x02, 0x01, 0x00}),
-        {"the widest memory word", WidestWrite, 1},
+        TARN_CALL(tarn_MemoryWordAssign, 10, MemoryTarget(Bytes(4, 0xFF), {0xA5, 0x02, 0x01, 0x00}),
+                  Operand(Words(10, {{0x2A5, 0x1}}))),
     };
 }
 

@@ -282,32 +282,31 @@ Properties Random() {
     return rows;
 }
 
-Properties ByHand() {
+std::vector<Case> ByHand() {
     const Vec half = Words(40, {{0, 0}, {0x17F, 0}});
     return {
         // To single precision: to nearest, ties to even, overflow to infinity.
-        TARN_KNOWN(tarn_MapToShortVector, Scalar{32, 0x1.000001p0}, "32'h3f800000"_v),
-        TARN_KNOWN(tarn_MapToShortVector, Scalar{32, 0x1.000003p0}, "32'h3f800002"_v),
-        TARN_KNOWN(tarn_MapToShortVector, Scalar{32, -0x1.8p-149}, "32'h80000002"_v),
-        TARN_KNOWN(tarn_MapToShortVector, Scalar{32, 0x1.ffffffp127}, "32'h7f800000"_v),
+        TARN_CALL(tarn_MapToShortVector, 32, Result("32'h3f800000"_v), 0x1.000001p0),
+        TARN_CALL(tarn_MapToShortVector, 32, Result("32'h3f800002"_v), 0x1.000003p0),
+        TARN_CALL(tarn_MapToShortVector, 32, Result("32'h80000002"_v), -0x1.8p-149),
+        TARN_CALL(tarn_MapToShortVector, 32, Result("32'h7f800000"_v), 0x1.ffffffp127),
         // Word 0 is written whatever the width.
-        TARN_KNOWN(tarn_SignedConvert, std::tuple<Width, int>{-3, -1},
-                   Vec{-3, "32'hffffffff"_v.bits}),
+        TARN_CALL(tarn_SignedConvert, -3, Result("32'hffffffff"_v), -1),
         // Halves go away from zero, by the sum as doubles add it.
-        TARN_KNOWN(tarn_ConvertToVector, Scalar{8, -2.5}, Words(8, {{0xFFFFFFFD, 0}})),
-        TARN_KNOWN(tarn_ConvertToVector, Scalar{32, 0.49999999999999994}, "32'h1"_v),
-        TARN_KNOWN(tarn_ConvertToVector, Scalar{64, 4503599627370497.0}, "64'h10000000000002"_v),
-        TARN_KNOWN(tarn_TruncatedConvertToVector, Scalar{8, -2.7}, Words(8, {{0xFFFFFFFE, 0}})),
+        TARN_CALL(tarn_ConvertToVector, 8, Result(Words(8, {{0xFFFFFFFD, 0}})), -2.5),
+        TARN_CALL(tarn_ConvertToVector, 32, Result("32'h1"_v), 0.49999999999999994),
+        TARN_CALL(tarn_ConvertToVector, 64, Result("64'h10000000000002"_v), 4503599627370497.0),
+        TARN_CALL(tarn_TruncatedConvertToVector, 8, Result(Words(8, {{0xFFFFFFFE, 0}})), -2.7),
         // X and Z are 0; bits above the width count but in signed numbers of one word.
-        TARN_KNOWN(tarn_UnsignedConvertToReal, Only{Words(8, {{0x1FF, 0}})}, 511.0),
-        TARN_KNOWN(tarn_SignedConvertToReal, Only{"4'b1x1z"_v}, -6.0),
-        TARN_KNOWN(tarn_SignedConvertToReal, Only{Words(8, {{0x17F, 0}})}, 127.0),
-        TARN_KNOWN(tarn_SignedConvertToReal, Only{half}, 0x17Fp32),
-        TARN_KNOWN(tarn_UnsignedConvertToReal, Only{Filled(1024, Logic::k1)}, kInfinity),
-        TARN_KNOWN(tarn_Clog2, Only{Words(4, {{0x101, 0}})}, 9),
-        TARN_KNOWN(tarn_AcoshR, OneReal{ToReal{}, 0.5}, kNaN),
-        TARN_KNOWN(tarn_AtanhR, OneReal{ToReal{}, -3.0}, -kInfinity),
-        TARN_KNOWN(tarn_Atan2R, TwoReals{ToReal{}, 0.0, 1.0}, std::acos(0.0)),
+        TARN_CALL(tarn_UnsignedConvertToReal, Words(8, {{0x1FF, 0}})).Returns(511.0),
+        TARN_CALL(tarn_SignedConvertToReal, "4'b1x1z"_v).Returns(-6.0),
+        TARN_CALL(tarn_SignedConvertToReal, Words(8, {{0x17F, 0}})).Returns(127.0),
+        TARN_CALL(tarn_SignedConvertToReal, half).Returns(0x17Fp32),
+        TARN_CALL(tarn_UnsignedConvertToReal, Filled(1024, Logic::k1)).Returns(kInfinity),
+        TARN_CALL(tarn_Clog2, Words(4, {{0x101, 0}})).Returns(9),
+        TARN_CALL(tarn_AcoshR, RealResult(kNaN), 0.5),
+        TARN_CALL(tarn_AtanhR, RealResult(-kInfinity), -3.0),
+        TARN_CALL(tarn_Atan2R, RealResult(std::acos(0.0)), 0.0, 1.0),
     };
 }
 

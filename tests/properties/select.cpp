@@ -13,33 +13,47 @@ namespace {
  * Fields that are read
  *----------------------------------------------------------------------------------------------*/
 
-// The vector has no more words than the field reaches, so that one word more is a stray access; the
-// result may lie where it begins.
+// A field of a vector that ends where the field does, so that one word more is a stray access. The
+// result may lie where the vector begins.
 struct Read {
-    int resultWidth;
     Vec source;
-    int index, width;
+    int low, width;
 };
-struct SignedRead : Read {};
-struct IndexedRead : Read {};
 
 Read DrawRead(Gen& gen) {
     const int width = DrawDefinedWidth(gen);
-    const int low = gen.OneIn(4)   ? 32 * gen.Below(4)
-                    : gen.OneIn(2) ? gen.Below(32)
-                                   : gen.Below(200);
+    const int low = gen.OneIn(4) ? 32 * gen.Below(4) : gen.Below(gen.OneIn(2) ? 32 : 200);
+    return {gen.FourState(width < 1 ? 0 : low + width), low, width};
+}
+
+Party WordOf(const Vec& vec, int low) {
+    return At(Operand(vec), static_cast<std::size_t>(low) / 32 * sizeof(VectorWord));
+}
+
+Case ReadField(Gen& gen) {
+    const auto [source, low, width] = DrawRead(gen);
+    return Case(tarn_Partselect, Result(Field(source, low, width)), WordOf(source, low), low % 32,
+                width);
+}
+
+Case ReadSignedField(Gen& gen) {
+    const auto [source, low, width] = DrawRead(gen);
     const int resultWidth = gen.OneIn(2) ? width : gen.AnyWidth();
-    return {resultWidth, gen.FourState(width < 1 ? 0 : low + width), low, width};
+    const Vec field = SignFilled(Field(source, low, width));
+    const Vec wide = width < 1 ? Vec{} : Extended(field, std::max(resultWidth, width), kSign);
+    return Case(tarn_SignedPartselect, resultWidth, Result(wide), WordOf(source, low), low % 32,
+                width);
 }
 
-SignedRead DrawSignedRead(Gen& gen) {
-    return {DrawRead(gen)};
-}
-
-IndexedRead DrawIndexedRead(Gen& gen) {
-    Vec source = gen.FourState(gen.OneIn(2) ? gen.Between(1, 96) : gen.AnyWidth());
+// Nothing may be read where no bit of the field is the source's.
+Case ReadIndexedField(Gen& gen) {
+    const Vec source = gen.FourState(gen.OneIn(2) ? gen.Between(1, 96) : gen.AnyWidth());
     const int width = DrawDefinedWidth(gen), index = DrawIndex(gen, source.width, width);
-    return {{0, std::move(source), index, width}};
+    const Party field = Result(Field(source, index, width));
+    if (HasBitInside(source.width, index, width)) {
+        return Case(tarn_IndexedPartselect, field, source, index, width);
+    }
+    return Case(tarn_IndexedPartselect, field, source.width, Unreadable{}, index, width);
 }
 
 std::tuple<Vec, int> DrawBit(Gen& gen) {
@@ -47,72 +61,22 @@ std::tuple<Vec, int> DrawBit(Gen& gen) {
     return {source, DrawIndex(gen, source.width, 32)};
 }
 
-Vec SignedField(const Vec& source, int index, int width, int resultWidth) {
-    if (width < 1) return Vec{};
-    return Extended(SignFilled(Field(source, index, width)), std::max(resultWidth, width), kSign);
-}
-
 int BitOf(const Vec& source, int index) {
     return static_cast<int>(Field(source, index, 1).bits[0]);
 }
 
-constexpr std::size_t kBytesPerWord = sizeof(VectorWord);
-
-std::size_t WordOf(int index) {
-    return static_cast<std::size_t>(index) / 32 * kBytesPerWord;
-}
-
-Case CaseOf(auto* function, auto model, const Read& drawn) {
-    const auto& [resultWidth, source, index, width] = drawn;
-    return Case(function, Result(model(source, index, width)), At(Operand(source), WordOf(index)),
-                index % 32, width);
-}
-Case CaseOf(auto* function, auto model, const SignedRead& drawn) {
-    const auto& [resultWidth, source, index, width] = drawn;
-    return Case(function, resultWidth, Result(model(source, index, width, resultWidth)),
-                At(Operand(source), WordOf(index)), index % 32, width);
-}
-// Nothing may be read where no bit of the field is the source's.
-Case CaseOf(auto* function, auto model, const IndexedRead& drawn) {
-    const auto& [resultWidth, source, index, width] = drawn;
-    const Party result = Result(model(source, index, width));
-    if (HasBitInside(source.width, index, width)) {
-        return Case(function, result, source, index, width);
-    }
-    return Case(function, result, source.width, Unreadable{}, index, width);
-}
 // A run of X bits from bit `base` of a word upward.
-struct XRun {
-    Vec words;
-    int count, base;
-};
-
-XRun DrawXRun(Gen& gen) {
+Case FillWithX(Gen& gen) {
     const int base = gen.Below(32), count = DrawDefinedWidth(gen);
-    return {gen.FourState(count < 1 ? 0 : base + count), count, base};
-}
-
-Vec WithXRun(const Vec& words, int base) {
+    const Vec words = gen.FourState(count < 1 ? 0 : base + count);
     Vec filled = Clean(AllX(words.width));
-    std::copy_n(words.bits.begin(), words.bits.empty() ? 0 : base, filled.bits.begin());
-    return filled;
-}
-
-Case CaseOf(auto* function, auto model, const XRun& drawn) {
-    const auto& [words, count, base] = drawn;
-    return Case(function, Target(words, model(words, base)), count, base);
+    std::copy_n(words.bits.begin(), count < 1 ? 0 : base, filled.bits.begin());
+    return Case(tarn_CleanBasedFillX, Target(words, filled), count, base);
 }
 
 /*------------------------------------------------------------------------------------------------
  * Concatenation, bits rewritten in place
  *----------------------------------------------------------------------------------------------*/
-
-struct Placement {
-    int span;
-    Vec destination, operand;
-    int offset;
-};
-struct ShiftedPlacement : Placement {};
 
 // What a call leaves of the destination's words that it writes.
 Vec Placed(const Vec& destination, const Vec& operand, int offset, int span) {
@@ -144,7 +108,7 @@ void Prepare(Gen& gen, Vec& destination, Vec& operand, int place, int lowestOfOp
     std::fill(destination.bits.begin() + place, destination.bits.begin() + 32, Logic::k0);
 }
 
-Placement DrawPlacement(Gen& gen) {
+Case Concatenate(Gen& gen) {
     Vec operand = gen.FourState(DrawDefinedWidth(gen));
     const int offset = gen.OneIn(4) ? 0 : gen.Below(32);
     const int end = offset + std::max(operand.width, 0);
@@ -153,25 +117,17 @@ Placement DrawPlacement(Gen& gen) {
                                     : DrawDefinedWidth(gen);
     Vec destination = gen.FourState(span);
     Prepare(gen, destination, operand, offset, 0);
-    return {span, std::move(destination), std::move(operand), offset};
+    return Case(tarn_Concatenate, span,
+                Target(destination, Placed(destination, operand, offset, span)), operand, offset);
 }
 
-ShiftedPlacement DrawShiftedPlacement(Gen& gen) {
+Case ConcatenateShifted(Gen& gen) {
     Vec operand = gen.FourState(DrawDefinedWidth(gen));
     Vec destination = gen.FourState(operand.width);
     const int place = gen.Between(0, 32);
     Prepare(gen, destination, operand, place, place);
-    return {{operand.width, std::move(destination), std::move(operand), 0}};
-}
-
-Case CaseOf(auto* function, auto model, const Placement& drawn) {
-    const auto& [span, destination, operand, offset] = drawn;
-    return Case(function, span, Target(destination, model(destination, operand, offset, span)),
-                operand, offset);
-}
-Case CaseOf(auto* function, auto model, const ShiftedPlacement& drawn) {
-    const auto& [span, destination, operand, offset] = drawn;
-    return Case(function, span, Target(destination, model(destination, operand, 0, span)),
+    return Case(tarn_ConcatenateShifted, operand.width,
+                Target(destination, Placed(destination, operand, 0, operand.width)),
                 Operand(operand));
 }
 
@@ -289,13 +245,13 @@ constexpr Logic k0 = Logic::k0, k1 = Logic::k1, kZ = Logic::kZ, kX = Logic::kX;
 
 Properties Random() {
     return {
-        TARN_ROW(tarn_Partselect, Field, DrawRead),
-        TARN_ROW(tarn_SignedPartselect, SignedField, DrawSignedRead),
-        TARN_ROW(tarn_IndexedPartselect, Field, DrawIndexedRead),
+        {"tarn_Partselect", ReadField},
+        {"tarn_SignedPartselect", ReadSignedField},
+        {"tarn_IndexedPartselect", ReadIndexedField},
         TARN_ROW(tarn_BitValue, BitOf, DrawBit),
-        TARN_ROW(tarn_CleanBasedFillX, WithXRun, DrawXRun),
-        TARN_ROW(tarn_Concatenate, Placed, DrawPlacement),
-        TARN_ROW(tarn_ConcatenateShifted, Placed, DrawShiftedPlacement),
+        {"tarn_CleanBasedFillX", FillWithX},
+        {"tarn_Concatenate", Concatenate},
+        {"tarn_ConcatenateShifted", ConcatenateShifted},
         TARN_ROW(tarn_Convert0ToZ, Rewritten<kZ, k1, kZ, kX>, DrawRewritten),
         TARN_ROW(tarn_Convert1ToZ, Rewritten<k0, kZ, kZ, kX>, DrawRewritten),
         TARN_ROW(tarn_ConvertXZTo0, Rewritten<k0, k1, k0, k0>, DrawRewritten),
@@ -308,55 +264,45 @@ Properties Random() {
     };
 }
 
-Properties ByHand() {
-    Properties rows = {
+std::vector<Case> ByHand() {
+    const Vec fill = Words(34, {{1, 2}, {3, 4}}), place = Words(50, {{0x3FF, 0}, {~0U, ~0U}});
+    std::vector<Case> calls = {
         // The sign of a field is its own top bit, X too; it fills the whole top word.
-        TARN_KNOWN(tarn_SignedPartselect, SignedRead{{40, "4'bx010"_v, 0, 4}},
-                   Words(40, {{0xFFFFFFFA, 0xFFFFFFF8}, {~0U, ~0U}})),
-        TARN_KNOWN(tarn_SignedPartselect, SignedRead{{8, "40'hz000000000"_v, 4, 36}},
-                   Words(36, {{0, 0}, {0, ~0U}})),
+        TARN_CALL(tarn_SignedPartselect, 40, Result(Words(40, {{~5U, ~7U}, {~0U, ~0U}})),
+                  Operand("4'bx010"_v), 0, 4),
+        TARN_CALL(tarn_SignedPartselect, 8, Result(Words(36, {{0, 0}, {0, ~0U}})),
+                  Operand("40'hz000000000"_v), 4, 36),
         // Bits above the source's width are not its own.
-        TARN_KNOWN(tarn_IndexedPartselect,
-                   IndexedRead{{0, Words(40, {{0, 0}, {0xFFFFFF5A, 0}}), 36, 8}}, "8'hx5"_v),
-        TARN_KNOWN(tarn_IndexedPartselect, IndexedRead{{0, "8'b01100101"_v, -3, 8}},
-                   "8'b00101xxx"_v),
-        TARN_KNOWN(tarn_CleanBasedFillX, XRun{Words(34, {{1, 2}, {3, 4}}), 4, 30},
-                   Words(34, {{0xC0000001, 0xC0000002}, {3, 3}})),
+        TARN_CALL(tarn_IndexedPartselect, Result("8'hx5"_v), Words(40, {{0, 0}, {~0xA5U, 0}}), 36,
+                  8),
+        TARN_CALL(tarn_IndexedPartselect, Result("8'b00101xxx"_v), "8'b01100101"_v, -3, 8),
+        TARN_CALL(tarn_CleanBasedFillX, Target(fill, Words(34, {{0xC0000001, 0xC0000002}, {3, 3}})),
+                  4, 30),
         // The operand is ORed into the first word and replaces the others.
-        TARN_KNOWN(tarn_Concatenate,
-                   Placement{50, Words(50, {{0x3FF, 0}, {~0U, ~0U}}), "40'hz000000001"_v, 10},
-                   Words(50, {{0x7FF, 0}, {0, 0x3C000}})),
-        TARN_KNOWN(tarn_ConcatenateShifted, ShiftedPlacement{{64, "64'h1"_v, "64'h200000002"_v, 0}},
-                   "64'h200000003"_v),
-        TARN_KNOWN(tarn_Convert0ToZ, InPlace{"8'h0f"_v}, Words(8, {{0xF, 0xFFFFFFF0}})),
+        TARN_CALL(tarn_Concatenate, 50, Target(place, Words(50, {{0x7FF, 0}, {0, 0x3C000}})),
+                  "40'hz000000001"_v, 10),
+        TARN_CALL(tarn_ConcatenateShifted, 64, Target("64'h1"_v, "64'h200000003"_v),
+                  Operand("64'h200000002"_v)),
+        TARN_CALL(tarn_Convert0ToZ, 8, Target("8'h0f"_v, Words(8, {{0xF, ~0xFU}}))),
         // Shifts move whole words; what an arithmetic one moves in is bit 31 of the top word.
-        TARN_KNOWN(tarn_LogicalShiftLeft, Shift{8, "8'b10110001"_v, 3}, Words(8, {{0x588, 0}})),
-        TARN_KNOWN(tarn_ArithmeticalShiftRight, Shift{40, "40'shz000000000"_v, 36}, "40'shz"_v),
-        TARN_KNOWN(tarn_ArithmeticalShiftRight, Shift{64, "8'sh80"_v, 8},
-                   Words(64, {{~0U, 0}, {~0U, 0}})),
+        TARN_CALL(tarn_LogicalShiftLeft, 8, Result(Words(8, {{0x588, 0}})), "8'b10110001"_v, 3),
+        TARN_CALL(tarn_ArithmeticalShiftRight, 40, Result("40'shz"_v), "40'shz000000000"_v, 36),
+        TARN_CALL(tarn_ArithmeticalShiftRight, 64, Result(Words(64, {{~0U, 0}, {~0U, 0}})),
+                  "8'sh80"_v, 8),
         // 32 bits are a signed index as they stand, an unsigned one below 2 to the power 31.
-        TARN_KNOWN(tarn_UnsignedScanIndexOfSelect, Only{"32'h80000000"_v}, 0),
-        TARN_KNOWN(tarn_SignedScanIndexOfSelect, Only{"32'h80000000"_v}, 1),
-        TARN_KNOWN(tarn_ScanShiftCount, Only{"64'h100000000"_v}, 1),
+        TARN_CALL(tarn_UnsignedScanIndexOfSelect, "32'h80000000"_v).Returns(0),
+        TARN_CALL(tarn_SignedScanIndexOfSelect, "32'h80000000"_v).Returns(1),
+        TARN_CALL(tarn_ScanShiftCount, "64'h100000000"_v).Returns(1),
     };
-    if (kIsChecked) return rows;
+    if (kIsChecked) return calls;
     // At the ends of the widest vector the end of a field is no int. Of the vector only its last
     // words are there.
     const Vec last = Words(63, {{0x89ABCDEF, 0x80000001}, {0x36543210, 0x40000000}});
-    const Party end = At(Operand(last), (2 - WordCount(INT_MAX)) * kBytesPerWord);
-    rows.push_back({"tarn_IndexedPartselect of the widest vector",
-                    [=](Gen&) {
-                        return Case(tarn_IndexedPartselect, Apart(Result(Field(last, 24, 64))),
-                                    INT_MAX, end, INT_MAX - 39, 64);
-                    },
-                    1});
-    rows.push_back({"tarn_BitValue of the widest vector",
-                    [=](Gen&) {
-                        return Case(tarn_BitValue, INT_MAX, end, INT_MAX - 1)
-                            .Returns(static_cast<int>(TARN_LOGIC_Z));
-                    },
-                    1});
-    return rows;
+    const Party end = At(Operand(last), (2 - WordCount(INT_MAX)) * sizeof(VectorWord));
+    calls.push_back(TARN_CALL(tarn_IndexedPartselect, Apart(Result(Field(last, 24, 64))), INT_MAX,
+                              end, INT_MAX - 39, 64));
+    calls.push_back(TARN_CALL(tarn_BitValue, INT_MAX, end, INT_MAX - 1).Returns(TARN_LOGIC_Z));
+    return calls;
 }
 
 }  // namespace

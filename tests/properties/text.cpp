@@ -114,35 +114,8 @@ std::int64_t MachineInteger(const Vec& value) {
 
 using Digits = std::tuple<Vec, int>;
 using Decimal = std::tuple<Vec, int, int>;
-using Characters = std::tuple<Vec, int>;
 using Character = std::tuple<Bare, int>;
 using Code = std::tuple<int>;
-using CodeWithSpace = std::tuple<int, int>;
-using Real = std::tuple<std::string, double>;
-using Copy = std::tuple<std::string>;
-
-struct Size {
-    Vec value;
-};
-struct CopyN {
-    std::string text;
-    unsigned count;
-};
-
-Case CaseOf(auto* function, auto model, const Size& drawn) {
-    const auto& bits = drawn.value.bits;
-    const int width = drawn.value.width;
-    const bool isHigh = width > 64 && std::find(bits.begin() + 64, bits.begin() + width,
-                                                Logic::k1) != bits.begin() + width;
-    return Case(function, Operand(drawn.value), width, Apart(NumberResult(isHigh ? 1 : 0)))
-        .Returns(model(drawn.value));
-}
-// A text that is as long as the count needs no NUL.
-Case CaseOf(auto* function, auto model, const CopyN& drawn) {
-    const auto& [text, count] = drawn;
-    return Case(function, Text(count > text.size() ? text + '\0' : text), count)
-        .Returns(model(text.substr(0, count)));
-}
 
 /*------------------------------------------------------------------------------------------------
  * Draws
@@ -187,7 +160,7 @@ Decimal DrawDecimal(Gen& gen) {
     if (gen.OneIn(2)) value = gen.Vector(value.width);
     return {std::move(value), minDigits, gen.OneIn(2) ? gen.Between(-1, 1) : 0};
 }
-Characters DrawCharacters(Gen& gen) {
+Digits DrawCharacters(Gen& gen) {
     return {gen.FourState(DrawDefinedWidth(gen)), gen.OneIn(2) ? gen.Between(-1, 1) : 0};
 }
 Character DrawCharacter(Gen& gen) {
@@ -197,15 +170,12 @@ Code DrawCode(Gen& gen) {
     if (kIsChecked) return {gen.Between(0, 5)};
     return {gen.OneIn(4) ? static_cast<int>(gen.Bits()) : gen.Between(-1, 6)};
 }
-CodeWithSpace DrawCodeWithSpace(Gen& gen) {
+std::tuple<int, int> DrawCodeWithSpace(Gen& gen) {
     return {std::get<0>(DrawCode(gen)), gen.Between(-1, 1)};
-}
-Size DrawSize(Gen& gen) {
-    return {DrawValue(gen)};
 }
 
 // One conversion for a double, with text around it that holds no other.
-Real DrawReal(Gen& gen) {
+std::tuple<std::string, double> DrawReal(Gen& gen) {
     constexpr std::string_view kPlain[] = {"", "a ", "%%", "100%% d", "%%-5d ["};
     std::string format(gen.Pick(kPlain));
     format += '%';
@@ -231,17 +201,34 @@ std::string Printed(const std::string& format, double value) {
     return text.substr(0, static_cast<std::size_t>(std::max(count, 0)));
 }
 
-Copy DrawCopy(Gen& gen) {
+std::tuple<std::string> DrawCopy(Gen& gen) {
     const std::string text = gen.Text(
         [&] { return std::string(std::size_t(gen.Below(gen.OneIn(8) ? 5000 : 40)), 'a'); });
     return {text.c_str()};
 }
-CopyN DrawCopyN(Gen& gen) {
-    const auto count = static_cast<unsigned>(gen.Below(gen.OneIn(8) ? 5000 : 40));
-    return {std::get<0>(DrawCopy(gen)), count};
-}
 std::string Same(const std::string& text) {
     return text;
+}
+
+// The value of a vector, and whether it has a bit that no size has.
+template <Extension extension>
+Property Size(const char* name, auto* function) {
+    return {name, [=](Gen& gen) {
+                const Vec value = DrawValue(gen);
+                const auto begin = value.bits.begin() + std::min(std::max(value.width, 0), 64);
+                const auto end = value.bits.begin() + std::max(value.width, 0);
+                const int isHigh = std::find(begin, end, Logic::k1) == end ? 0 : 1;
+                return Case(function, Operand(value), value.width, Apart(NumberResult(isHigh)))
+                    .Returns(MachineInteger<extension>(value));
+            }};
+}
+
+// A text that is as long as the count needs no NUL.
+Case CopyCounted(Gen& gen) {
+    const std::string text = std::get<0>(DrawCopy(gen));
+    const auto count = static_cast<unsigned>(gen.Below(gen.OneIn(8) ? 5000 : 40));
+    return Case(tarn_CopyNToGlobalBuffer, Text(count > text.size() ? text + '\0' : text), count)
+        .Returns(text.substr(0, count));
 }
 
 /*------------------------------------------------------------------------------------------------
@@ -264,43 +251,36 @@ Properties Random() {
         TARN_ROW(tarn_SignedConvertToDec0, SignedCodeDigit, DrawCode, 100),
         TARN_ROW(tarn_ConvertToChar0, CodeCharacter, DrawCodeWithSpace, 100),
         TARN_ROW(tarn_ConvertToString0, CodeCharacter, DrawCodeWithSpace, 100),
-        TARN_ROW(tarn_UnsignedConvertToSizeT, MachineInteger<kZero>, DrawSize),
-        TARN_ROW(tarn_SignedConvertToSizeT, MachineInteger<kSign>, DrawSize),
+        TARN_ROW_OF(Size<kZero>, tarn_UnsignedConvertToSizeT),
+        TARN_ROW_OF(Size<kSign>, tarn_SignedConvertToSizeT),
         TARN_ROW(tarn_ConvertToStringR, Printed, DrawReal),
         TARN_ROW(tarn_CopyToGlobalBuffer, Same, DrawCopy, 1000),
-        TARN_ROW(tarn_CopyNToGlobalBuffer, Same, DrawCopyN, 1000),
+        {"tarn_CopyNToGlobalBuffer", CopyCounted, 1000},
     };
 }
 
-Properties ByHand() {
-    const Vec xs = "8'bx"_v;
+std::vector<Case> ByHand() {
+    Party value = Target("70'h3fffffffffffffffff"_v, Words(70, {{0, 0}, {0, 0}, {0x3F, 0}}));
+    value.fixed = tarn_VectorRegister;
     return {
         // Only zeros are left out or put in front; a short top digit of X alone is an x.
-        TARN_KNOWN(tarn_ConvertToHex, Digits{"16'h00x0"_v, 0}, "x0"),
-        TARN_KNOWN(tarn_ConvertToHex, Digits{"6'bxx0101"_v, -1}, "x5"),
-        TARN_KNOWN(tarn_ConvertToHex, Digits{"6'bx00101"_v, -1}, "X5"),
-        TARN_KNOWN(tarn_ConvertToBin, Digits{"8'h5"_v, 10}, "0000000101"),
+        TARN_CALL(tarn_ConvertToHex, "16'h00x0"_v, 0).Returns("x0"),
+        TARN_CALL(tarn_ConvertToHex, "6'bxx0101"_v, -1).Returns("x5"),
+        TARN_CALL(tarn_ConvertToHex, "6'bx00101"_v, -1).Returns("X5"),
+        TARN_CALL(tarn_ConvertToBin, "8'h5"_v, 10).Returns("0000000101"),
         // Bits above the width are no digits, but in decimal text.
-        TARN_KNOWN(tarn_ConvertToOct, Digits{Words(4, {{~8U, ~15U}}), 0}, "7"),
-        TARN_KNOWN(tarn_UnsignedConvertToDec, Decimal{Words(8, {{~0U, 0}}), -1, 0}, "4294967295"),
+        TARN_CALL(tarn_ConvertToOct, Words(4, {{~8U, ~15U}}), 0).Returns("7"),
+        TARN_CALL(tarn_UnsignedConvertToDec, Words(8, {{~0U, 0}}), -1, 0).Returns("4294967295"),
         // The field of a signed number has a place for the sign, in front of zeros.
-        TARN_KNOWN(tarn_SignedConvertToDec, Decimal{"8'shfb"_v, -1, 1}, "-005"),
-        TARN_KNOWN(tarn_SignedConvertToDec, Decimal{"1'sb0"_v, -1, 0}, " 0"),
-        TARN_KNOWN(tarn_SignedConvertToDec, Decimal{"8'sh80"_v, -1, 0}, "-128"),
-        TARN_KNOWN(tarn_UnsignedConvertToDec, Decimal{xs, -1, 0}, "  x"),
-        TARN_KNOWN(tarn_UnsignedConvertToDec, Decimal{"8'bz0"_v, 0, 0}, "Z"),
-        TARN_KNOWN(tarn_ConvertToString, Characters{"32'h00610063"_v, 1}, " a c"),
-        TARN_KNOWN(tarn_ConvertToString, Characters{"16'hx1e9"_v, 0}, "\1\xE9"),
+        TARN_CALL(tarn_SignedConvertToDec, "8'shfb"_v, -1, 1).Returns("-005"),
+        TARN_CALL(tarn_SignedConvertToDec, "1'sb0"_v, -1, 0).Returns(" 0"),
+        TARN_CALL(tarn_SignedConvertToDec, "8'sh80"_v, -1, 0).Returns("-128"),
+        TARN_CALL(tarn_UnsignedConvertToDec, "8'bx"_v, -1, 0).Returns("  x"),
+        TARN_CALL(tarn_UnsignedConvertToDec, "8'bz0"_v, 0, 0).Returns("Z"),
+        TARN_CALL(tarn_ConvertToString, "32'h00610063"_v, 1).Returns(" a c"),
+        TARN_CALL(tarn_ConvertToString, "16'hx1e9"_v, 0).Returns("\1\xE9"),
         // A value in the register is divided down to 0 where it stands; the rest is the caller's.
-        {"tarn_UnsignedConvertToDec in the register",
-         [](Gen& /*gen*/) {
-             Party value =
-                 Target("70'h3fffffffffffffffff"_v, Words(70, {{0, 0}, {0, 0}, {0x3F, 0}}));
-             value.fixed = tarn_VectorRegister;
-             return Case(tarn_UnsignedConvertToDec, 70, value, 0, 0)
-                 .Returns("1180591620717411303423");
-         },
-         1},
+        TARN_CALL(tarn_UnsignedConvertToDec, 70, value, 0, 0).Returns("1180591620717411303423"),
     };
 }
 

@@ -112,6 +112,10 @@ class Case {
         };
     }
 
+    Case Named(const char* name) && {
+        name_ = name;
+        return std::move(*this);
+    }
     template <class Value>
     Case Returns(const Value& value) && {
         returned_ = Shown(value);
@@ -123,6 +127,7 @@ class Case {
         return std::move(*this);
     }
 
+    const std::string& Name() const { return name_; }
     const std::vector<Party>& Parties() const { return parties_; }
     const std::string& Expected() const { return returned_; }
     std::string CallAt(const Places& at) const { return call_(at); }
@@ -167,6 +172,7 @@ class Case {
         }
     }
 
+    std::string name_;
     std::vector<Party> parties_;
     std::vector<Argument> arguments_;
     std::function<std::string(const Places&)> call_;

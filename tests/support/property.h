@@ -22,12 +22,12 @@ struct Property {
 };
 using Properties = std::vector<Property>;
 
-// `random` compares with models; `known` gives rows by hand, one for each convention that a model
-// repeats without showing it.
+// The properties compare with models; `known` gives calls by hand, one for each convention that a
+// model repeats without showing it.
 struct Family {
     const char* name;
     Properties random;
-    Properties (*known)();
+    std::vector<Case> (*known)();
 };
 const std::vector<Family>& AllFamilies();
 
@@ -83,15 +83,10 @@ template <class Function, class Model, class Draw>
 Property Row(const char* name, Function* function, Model model, Draw draw, int runs = kRuns) {
     return {name, [=](Gen& gen) { return CaseOf(function, model, draw(gen)); }, runs};
 }
-template <class Function, class Drawn, class Expected>
-Property Known(const char* name, Function* function, const Drawn& drawn, const Expected& expected) {
-    const auto model = [expected](const auto&...) { return expected; };
-    return Row(
-        name, function, model, [drawn](Gen&) { return drawn; }, 1);
-}
-// Rows by the export's name alone.
+// By the export's name alone: a row, one made by a function of the family, a call by hand.
 #define TARN_ROW(name, ...) Row(#name, name, __VA_ARGS__)
-#define TARN_KNOWN(name, ...) Known(#name, name, __VA_ARGS__)
+#define TARN_ROW_OF(make, name, ...) make(#name, name __VA_OPT__(, ) __VA_ARGS__)
+#define TARN_CALL(name, ...) Case(name, __VA_ARGS__).Named(#name)
 
 // Widths are often equal; two operands are sometimes the same words, so that they can share
 // storage.
