@@ -37,7 +37,7 @@ inline bool HasBitInside(int targetWidth, int index, int width) {
 inline int DrawIndex(Gen& gen, int vectorWidth, int width) {
     const int near = std::max(vectorWidth, 1), below = width == INT_MAX ? 200 : std::max(width, 1);
     const int index = gen.Between(-below - 2, near + 2);
-    const int edges[] = {INT_MIN, INT_MIN + 1, -width, 1 - below, near, INT_MAX};
+    const int edges[] = {INT_MIN, INT_MIN + 1, -below, 1 - below, near, INT_MAX};
     switch (gen.Below(8)) {
         case 0:
             return index & ~31;

@@ -190,7 +190,8 @@ Literal DrawLiteral(Gen& gen) {
         return (gen.OneIn(8) ? "0_" : "") + std::to_string(gen.Width()) + DrawText(gen);
     });
     const std::size_t sizeEnd = std::min(text.find_first_not_of("0123456789_"), text.size());
-    const bool hasSize = sizeEnd > 0 && sizeEnd < text.size() && sizeEnd <= 7;
+    const bool hasSize =
+        sizeEnd > 0 && sizeEnd < text.size() && SizeOf(text.substr(0, sizeEnd)) < 70'000;
     if (hasSize) literal.size = text.substr(0, sizeEnd);
     literal.text = text.substr(hasSize ? sizeEnd : 0).c_str();
     return literal;
