@@ -13,21 +13,27 @@ using Parsing = std::tuple<Width, std::string>;
 // By their count, without a terminator.
 using Packing = std::tuple<Width, Counted>;
 using RealPacking = std::tuple<ToReal, Counted>;
-// Stretches of digits alone, of other characters among them and of underscores, together up to half
-// as much again as the width holds.
+// Stretches of digits alone, of some of them, of underscores, and of digits with other characters
+// among them; often one stretch, and up to half as much again as the width holds.
 std::string DrawText(Gen& gen, int width, std::string_view digits, int bitsPerDigit) {
     return gen.Text([&] {
-        constexpr std::string_view kOthers = "__xXzZ?__2389gG/: \xE9";
+        constexpr std::string_view kOthers = "__xXzZ?__2389gG/: ";
         const int whole = std::max(width, 0) / bitsPerDigit + 6;
         const int most = gen.OneIn(4) ? 6 : gen.OneIn(4) ? whole * 3 / 2 : whole;
+        const int stretch = gen.OneIn(3) ? 1000 : 20;
         std::string text;
-        enum { kDigits, kMixed, kSkipped } kind = kDigits;
-        for (int left = gen.Below(most); left > 0; --left) {
-            if (gen.OneIn(20)) kind = gen.OneIn(4) ? kSkipped : kind == kDigits ? kMixed : kDigits;
-            text += kind == kSkipped                      ? '_'
-                    : kind == kMixed && gen.OneIn(3)      ? gen.Pick(kOthers)
-                    : kind == kDigits && gen.OneIn(10000) ? gen.Pick(kOthers)
-                                                          : gen.Pick(digits);
+        std::string_view set = digits;
+        int othersOneIn = 1000;
+        for (int left = gen.OneIn(4) ? most : gen.Below(most); left > 0; --left) {
+            if (gen.OneIn(stretch)) {
+                const auto first = static_cast<std::size_t>(gen.Below(int(digits.size())));
+                set = gen.OneIn(2) ? digits : gen.OneIn(4) ? "_" : digits.substr(first);
+                othersOneIn = gen.Pick(std::vector{3, 30, 1000});
+            }
+            const bool isOther = gen.OneIn(othersOneIn);
+            text += !isOther       ? gen.Pick(set)
+                    : gen.OneIn(2) ? gen.Pick(kOthers)
+                                   : static_cast<char>(gen.Between(1, 255));
         }
         return text;
     });
