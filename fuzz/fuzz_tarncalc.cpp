@@ -71,7 +71,7 @@ void Check(const char* what, bool holds) {
     std::abort();
 }
 
-// What a stream wrote, without a limit: of a long text the beginning, and a hash of the rest.
+// What a stream wrote, without a limit; of a long text the beginning is kept.
 class Transcript : public std::streambuf {
   public:
     explicit Transcript(std::ostream& stream) : stream_(stream), before_(stream.rdbuf(this)) {}
@@ -79,13 +79,11 @@ class Transcript : public std::streambuf {
 
     std::string_view Text() const { return {text_, std::min(count_, sizeof text_)}; }
     bool IsWhole() const { return count_ <= sizeof text_; }
-    std::uint64_t Hash() const { return hash_; }
 
   protected:
     int_type overflow(int_type character) override {
         if (count_ < sizeof text_) text_[count_] = static_cast<char>(character);
         ++count_;
-        hash_ = (hash_ ^ static_cast<unsigned char>(character)) * 0x100000001B3;
         return character;
     }
 
@@ -94,14 +92,12 @@ class Transcript : public std::streambuf {
     std::streambuf* before_;
     char text_[5000];
     std::size_t count_ = 0;
-    std::uint64_t hash_ = 0;
 };
 
 struct Ending {
     tarncalc::Outcome outcome;
     std::string output, messages;
     bool isWhole;
-    std::uint64_t hash;
 
     bool operator==(const Ending&) const = default;
 };
@@ -118,7 +114,7 @@ Ending Run(const std::string& program, const tarncalc::Radix& radix, char newMem
     }
     byteLimit = 0;
     return {outcome, std::string(output.Text()), std::string(messages.Text()),
-            output.IsWhole() && messages.IsWhole(), output.Hash() ^ messages.Hash() << 1U};
+            output.IsWhole() && messages.IsWhole()};
 }
 
 // A message is fit for a terminal whatever the program holds, and says where it comes from.

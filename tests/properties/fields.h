@@ -104,6 +104,10 @@ inline Write DrawInnerWrite(Gen& gen, int targetWidth) {
     return {std::move(target), index, width, std::move(value)};
 }
 
+template <class Returned, class... Parameters>
+constexpr bool ReturnsNothing(Returned (* /*function*/)(Parameters...)) {
+    return std::is_void_v<Returned>;
+}
 // Where a write is asked, it returns whether it was a change.
 Case WithFlag(auto* function, Case written, bool isChange) {
     return ReturnsNothing(function) ? written : std::move(written).Returns(isChange ? 1 : 0);

@@ -95,6 +95,8 @@ class Case {
 
     template <class Returned, class... Parameters, class... Values>
     Case(Returned (*function)(Parameters...), Values... values) {
+        // Parsers return false whatever they have read.
+        if (std::is_same_v<Returned, bool>) returned_ = Shown(false);
         // Braces, so that the parties are added from left to right.
         const std::tuple<decltype(Add(std::move(values)))...> parts{Add(std::move(values))...};
         const auto slots = std::apply([](auto... part) { return std::tuple_cat(part...); }, parts);

@@ -53,19 +53,13 @@ Case CaseOf(auto* function, auto model, const std::tuple<Drawn...>& drawn) {
     const auto call = [&](const auto&... values) { return Case(function, values...); };
     return std::apply(call, drawn).Returns(std::apply(model, drawn));
 }
-template <class Returned, class... Parameters>
-constexpr bool ReturnsNothing(Returned (* /*function*/)(Parameters...)) {
-    return std::is_void_v<Returned>;
-}
-// Parsers return false whatever they have read.
 template <class... Drawn>
 Case CaseOf(auto* function, auto model, const std::tuple<Width, Drawn...>& drawn) {
     const Party result = Result(std::apply(model, drawn));
     const auto call = [&](Width width, const auto&... rest) {
         return Case(function, width.bits, result, rest...);
     };
-    return ReturnsNothing(function) ? std::apply(call, drawn)
-                                    : std::apply(call, drawn).Returns(false);
+    return std::apply(call, drawn);
 }
 template <class... Drawn>
 Case CaseOf(auto* function, auto model, const std::tuple<ToReal, Drawn...>& drawn) {
