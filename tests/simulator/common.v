@@ -1,10 +1,25 @@
-// What the checks share: where operands come from, and the count of what was compared.
+// What the testbenches share: where operands come from, and the count of what was compared.
+
+// NAME.v is a vector of WIDTH bits; its sign is a parameter, which no declaration can have.
+`define VECTOR(NAME, WIDTH, IS_SIGNED) \
+    generate \
+        if (IS_SIGNED) begin : NAME reg signed [WIDTH-1:0] v; end \
+        else begin : NAME reg [WIDTH-1:0] v; end \
+    endgenerate
+
+// The library's result is in `got` after CALL.
+`define CHECK(CALL, EXPECTED) \
+    begin CALL; expected = EXPECTED; compare(`"CALL`", got === expected); end
+
 module common;
     localparam MAX = 320;
 
     integer seed = 1;
     integer comparisons = 0;
     integer differences = 0;
+    integer rounds = 1;
+    reg is_given;
+    initial is_given = $value$plusargs("rounds=%d", rounds);
 
     function integer below(input integer bound);
         below = $unsigned($random(seed)) % bound;
@@ -24,16 +39,13 @@ module common;
     endfunction
 
     function [MAX-1:0] known(input integer width);
-        case (below(12))
-            0: known = 0;
-            1: known = 1;
-            2: known = ~320'd0;
-            3: known = 320'd1 << (width - 1);
-            4: known = (320'd1 << (width - 1)) - 1;
-            5: known = below(20);
-            6: known = -below(20);
-            7, 8: known = runs(width);
-            9: known = 320'd1 << below(width);
+        case (below(10))
+            0: known = 320'd1 << (width - 1);
+            1: known = (320'd1 << (width - 1)) - 1;
+            2, 3: known = below(20);
+            4: known = -below(20);
+            5, 6: known = runs(width);
+            7: known = 320'd1 << below(width);
             default: known = noise(width);
         endcase
     endfunction
@@ -81,37 +93,5 @@ module common;
         endcase
     endfunction
 
-    // Where the simulator departs from the standard, results are compared with what the clause
-    // says, written with other operators of the simulator; how often it departs is counted here.
-    localparam PLUS = 0, MIX = 1, WIDE_INDEX = 2, NEGATIVE_POWER = 3, TO_REAL = 4;
-    localparam KINDS = 5;
-    integer departures [0:KINDS-1];
-    initial for (kind = 0; kind < KINDS; kind = kind + 1) departures[kind] = 0;
-    integer kind;
-
-    // Where the standard (17.1.1.3) leaves the width of a field open and the library's is wider.
-    integer wider_fields = 0;
-
-    function [8*100:1] departure(input integer kind);
-        case (kind)
-            PLUS: departure = "+a keeps X and Z bits (5.1.5: the entire result is X)";
-            MIX: departure = "1'bx ? z : z is Z (5.1.13, table 5-21: X)";
-            WIDE_INDEX: departure = "a[b] ignores the bits of b above 32 (5.2.1: out of bounds, X)";
-            NEGATIVE_POWER: departure = "a ** -b is 0 above 32 bits (5.1.5, table 5-6)";
-            TO_REAL: departure = "X and Z bits or over 64 bits as a real (4.8.2: 0; nearest)";
-            default: departure = "?";
-        endcase
-    endfunction
-
-    task report;
-        begin
-            for (kind = 0; kind < KINDS; kind = kind + 1)
-                if (departures[kind] != 0)
-                    $display("the simulator departs %0d times: %0s", departures[kind],
-                             departure(kind));
-            if (wider_fields != 0)
-                $display("a signed %%d has one more place for its sign %0d times", wider_fields);
-            $display("%0d comparisons, %0d differences", comparisons, differences);
-        end
-    endtask
+    initial #2 $display("%0d comparisons, %0d differences", comparisons, differences);
 endmodule
