@@ -1,283 +1,206 @@
 #include "program.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <functional>
 #include <iterator>
+#include <map>
+#include <random>
+#include <string_view>
+#include <vector>
 
 namespace tarn::test {
 
 namespace {
 
+constexpr int kStatementCount = 20;
 constexpr int kMaxDepth = 4;
-constexpr int kMaxDivisorWidth = 40;
-
-constexpr const char* kUnary[] = {"-", "~", "!", "&", "~&", "|", "~|", "^", "~^", "^~"};
-constexpr const char* kBinary[] = {"+",  "-", "*",  "&", "|",  "^",   "~^",  "&&",  "||", "==",
-                                   "!=", "<", "<=", ">", ">=", "===", "!==", "==?", "!=?"};
-constexpr const char* kShifts[] = {"<<", ">>", "<<<"};
-constexpr const char* kRealBinary[] = {"+", "-", "*"};
-constexpr const char* kRealComparisons[] = {"<", "<=", ">", ">=", "==", "!="};
-constexpr const char* kConversions[] = {"%b", "%0b", "%0d"};
-constexpr const char* kVariableConversions[] = {"%o", "%0o", "%h", "%0h", "%s", "%50d", "%050d"};
-constexpr const char* kRealConversions[] = {"%g", "%e", "%f", "%0.3f", "%12.4e"};
 constexpr int kWidths[] = {1, 2, 3, 4, 7, 8, 12, 16, 24, 31, 32, 33, 40, 63, 64, 65, 96, 100, 128};
 
-std::string Parenthesised(const std::string& text) {
-    return "(" + text + ")";
+// What may stand for a word in capitals: one of the texts, in which such words are replaced again.
+// N9 is a number below 9 and @ the end of a name; LABEL, LITERAL, SELECT and FIELD are made by
+// Generator. A remark names the entry of departures.v that a rule avoids.
+const std::map<std::string, std::vector<std::string>, std::less<>> kRules = {
+    {"STATEMENT",
+     {"TARGET = VECTOR", "TARGET = VECTOR", "TARGET = VECTOR", "TARGET = VECTOR", "REALSTATEMENT",
+      "$display(\"LABEL FORMAT\", VECTOR)", "$display(\"LABEL FORMAT\", VECTOR)",
+      "$display(\"LABEL FORMAT\", VECTOR)", "$display(\"LABEL %d\", $unsigned(VECTOR))",  // places
+      "$display(\"LABEL NAMEFORMAT\", NAME)"}},
+    {"REALSTATEMENT",
+     {"r0@ = REAL", "r1@ = REAL", "m@[0] = REAL RELATION REAL",
+      "$display(\"LABEL REALFORMAT\", REAL)"}},
+    {"FORMAT", {"%b", "%0b", "%0d"}},
+    {"NAMEFORMAT", {"%o", "%0o", "%h", "%0h", "%s", "%50d", "%050d"}},  // digits, characters
+    {"REALFORMAT", {"%g", "%e", "%f", "%0.3f", "%12.4e"}},
+
+    {"TARGET", {"WORD", "m@[N4]FIELD", "{NAME, SELECT}", "SELECT", "REG", "REG"}},  // memory
+    {"NAME", {"REG", "REG", "REG", "REG", "REG", "i@"}},
+    {"REG", {"v0@", "v1@", "v2@", "v3@", "v4@", "v5@"}},
+    {"WORD", {"m@[N4]", "m@[INDEX]"}},
+    {"INDEX", {"i@", "i@", "(i@ + N45)", "(i@ - N6)"}},  // index
+
+    // A vector that is nested deep enough is a PRIMARY. It has no sign + (plus).
+    {"VECTOR",
+     {"PRIMARY", "PRIMARY", "(UNARY(VECTOR))", "(UNARY(VECTOR))", "BINARY", "BINARY", "BINARY",
+      "BINARY", "CONDITIONAL", "CONCATENATION"}},
+    {"PRIMARY", {"LITERAL", "WORD", "SELECT", "NAME", "NAME", "NAME"}},
+    {"UNARY", {"-", "~", "!", "&", "~&", "|", "~|", "^", "~^", "^~", "$signed", "$unsigned"}},
+    {"BINARY",
+     {"(VECTOR OPERATOR VECTOR)", "(VECTOR OPERATOR VECTOR)", "VECTOR OPERATOR VECTOR",
+      "VECTOR OPERATOR VECTOR", "(VECTOR / v5@)", "(VECTOR % v5@)",  // quotient
+      "((VECTOR) SHIFT AMOUNT)", "(((VECTOR) + 2'sd0) >>> AMOUNT)",  // ashr
+      "((VECTOR) ** N6)"}},                                          // power
+    {"OPERATOR",
+     {"+", "-", "*", "&", "|", "^", "~^", "&&", "||", "===", "!==", "==?", "!=?", "RELATION",
+      "RELATION", "RELATION"}},
+    {"RELATION", {"==", "!=", "<", "<=", ">", ">="}},
+    {"SHIFT", {"<<", ">>", "<<<"}},
+    {"AMOUNT", {"N70", "NAME"}},  // amount
+    {"CONDITIONAL",               // mix
+     {"((VECTOR) === 1'b1 ? VECTOR : VECTOR)", "((VECTOR) ? ~(~(VECTOR)) : ~(~(VECTOR)))"}},
+    {"CONCATENATION",
+     {"{VECTOR}", "{VECTOR, PRIMARY}", "{VECTOR, PRIMARY, PRIMARY}", "{2{VECTOR}}", "{3{VECTOR}}"}},
+
+    {"REAL",  // not of vectors: real
+     {"REALTERM", "(REALTERM REALOPERATOR REALTERM)",
+      "((REALTERM REALOPERATOR REALTERM) REALOPERATOR REALTERM)"}},
+    {"REALTERM", {"r0@", "r1@", "N50.25"}},
+    {"REALOPERATOR", {"+", "-", "*"}},
+};
+
+struct Variable {
+    std::string name;
+    int left;
+    int right;
+
+    int Width() const { return std::abs(left - right) + 1; }
+};
+
+class Generator {
+  public:
+    Generator(std::uint64_t seed, int number)
+        : random_(seed), number_(std::to_string(number)), suffix_("_" + number_) {}
+
+    Program Make();
+
+  private:
+    int Below(int bound) { return static_cast<int>(random_() % static_cast<std::uint64_t>(bound)); }
+    bool OneIn(int count) { return Below(count) == 0; }
+
+    template <class List>
+    const auto& Pick(const List& list) {
+        return list[static_cast<std::size_t>(Below(static_cast<int>(std::size(list))))];
+    }
+
+    std::string Range(const Variable& variable) {
+        return std::string(OneIn(2) ? "signed [" : "[") + std::to_string(variable.left) + ":" +
+               std::to_string(variable.right) + "] ";
+    }
+
+    void Declare(const std::string& name, int width) {
+        const int low = OneIn(3) ? Below(20) - 10 : 0;
+        const int high = low + width - 1;
+        const bool ascends = OneIn(4);
+        vectors_.push_back({name, ascends ? low : high, ascends ? high : low});
+        program_.declarations += "reg " + Range(vectors_.back()) + name + ";\n";
+        Add(name + " = " + Literal(width));
+    }
+
+    void Add(const std::string& text) {
+        program_.statements += Expand(text) + ";\n";
+        ++statementCount_;
+    }
+
+    std::string Expand(std::string_view text, int depth = kMaxDepth) {
+        std::string result;
+        while (!text.empty()) {
+            std::size_t length = 1;
+            if (text[0] == '@') {
+                result += suffix_;
+            } else if (text[0] < 'A' || text[0] > 'Z') {
+                result += text[0];
+            } else {
+                length = text.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789");
+                result += Replacement(text.substr(0, length), depth);
+            }
+            text.remove_prefix(std::min(length, text.size()));
+        }
+        return result;
+    }
+
+    std::string Replacement(std::string_view word, int depth) {
+        if (word == "LABEL") return number_ + "." + std::to_string(statementCount_);
+        if (word == "LITERAL") return Literal(Pick(kWidths));
+        if (word == "SELECT") return Select(Pick(vectors_));
+        if (word == "FIELD") return Field(memory_);
+        if (word == "VECTOR" && depth-- <= 0) word = "PRIMARY";
+        const auto rule = kRules.find(word);
+        if (rule != kRules.end()) return Expand(Pick(rule->second), depth);
+        return std::to_string(Below(std::stoi(std::string(word.substr(1)))));
+    }
+
+    std::string Literal(int width) {
+        const bool isKnown = !OneIn(3);
+        const std::string sign = OneIn(2) ? "'s" : "'";
+        if (isKnown && OneIn(4))
+            return std::to_string(std::max(width, 7)) + sign + "d" + std::to_string(Below(100));
+        const int kind = Below(5);
+        std::string digits(static_cast<std::size_t>(width), kind == 0 ? '1' : '0');
+        for (char& digit : digits) {
+            if (kind > 2) digit = "01"[Below(2)];
+            if (!isKnown && OneIn(6)) digit = "xz"[Below(2)];
+        }
+        return std::to_string(width) + sign + "b" + digits;
+    }
+
+    std::string Field(const Variable& variable) {
+        const int first = Below(variable.Width());
+        const int second = first + Below(variable.Width() - first);
+        const int step = variable.left < variable.right ? 1 : -1;
+        return "[" + std::to_string(variable.left + step * first) + ":" +
+               std::to_string(variable.left + step * second) + "]";
+    }
+
+    // Only an INDEX, which the simulator doesn't know beforehand, begins a field that may leave the
+    // vector (field).
+    std::string Select(const Variable& variable) {
+        if (OneIn(4)) return variable.name + Field(variable);
+        const char* const kind = Pick(std::array{"", " +: ", " -: "});
+        const std::string width = *kind != 0 ? std::to_string(1 + Below(variable.Width())) : "";
+        return variable.name + Expand("[INDEX") + kind + width + "]";
+    }
+
+    std::mt19937_64 random_;
+    std::string number_;
+    std::string suffix_;
+    std::vector<Variable> vectors_;
+    Variable memory_{};
+    int statementCount_ = 0;
+    Program program_;
+};
+
+Program Generator::Make() {
+    for (int i = 0; i < 5; ++i)
+        Declare("v" + std::to_string(i) + suffix_, Pick(kWidths));
+    Declare("v5" + suffix_, 1 + Below(40));  // a divisor
+    program_.declarations += Expand("integer i@;\nreal r0@;\nreal r1@;\n");
+    memory_ = {"m" + suffix_, Pick(kWidths) - 1, 0};
+    program_.declarations += "reg " + Range(memory_) + memory_.name + " [0:3];\n";
+    for (const char* text : {"i@ = N9", "r0@ = N1000.N1000", "r1@ = N9.5e-N5"})
+        Add(text);
+    for (int i = 0; i < kStatementCount; ++i)
+        Add("STATEMENT");
+    for (const char* name :
+         {"v0@", "v1@", "v2@", "v3@", "v4@", "v5@", "i@", "m@[0]", "m@[1]", "m@[2]", "m@[3]"})
+        Add(std::string("$display(\"LABEL %b\", ") + name + ")");
+    return program_;
 }
 
 }  // namespace
 
-std::string Variable::Declaration() const {
-    std::string text = isSigned ? "reg signed " : "reg ";
-    text += "[" + std::to_string(left) + ":" + std::to_string(right) + "] " + name;
-    if (wordCount > 0) text += " [0:" + std::to_string(wordCount - 1) + "]";
-    return text;
-}
-
-Program::Program(std::uint64_t seed, int number, int statementCount)
-    : random_(seed), suffix_("_" + std::to_string(number)) {
-    Declare();
-    for (int i = 0; i < statementCount; ++i) {
-        const int kind = Below(10);
-        if (kind < 4) {
-            Add(Assignment());
-        } else if (kind < 9) {
-            Add(Display());
-        } else {
-            Add(RealStatement());
-        }
-    }
-    DisplayAll();
-}
-
-int Program::Below(int bound) {
-    return static_cast<int>(random_() % static_cast<std::uint64_t>(bound));
-}
-
-std::string Program::Name(const char* prefix, std::size_t index) const {
-    return prefix + std::to_string(index) + suffix_;
-}
-
-void Program::DeclareVector(int width) {
-    const int low = OneIn(3) ? Below(20) - 10 : 0;
-    const int high = low + width - 1;
-    const bool ascends = OneIn(4);
-    variables_.push_back(
-        {Name("v", variables_.size()), ascends ? low : high, ascends ? high : low, OneIn(2)});
-}
-
-void Program::Declare() {
-    for (int i = 0; i < 5; ++i)
-        DeclareVector(Pick(kWidths));
-    DeclareVector(1 + Below(kMaxDivisorWidth));
-    vectorCount_ = variables_.size();
-    memory_ = {Name("m", 0), Pick(kWidths) - 1, 0, OneIn(2), 4};
-    for (const Variable& variable : variables_)
-        declarations_.push_back(variable.Declaration());
-    declarations_.push_back(memory_.Declaration());
-    variables_.push_back({Name("i", 0), 31, 0, true});
-    declarations_.push_back("integer " + variables_.back().name);
-    for (std::size_t i = 0; i < 2; ++i) {
-        reals_.push_back(Name("r", i));
-        declarations_.push_back("real " + reals_.back());
-    }
-    for (const Variable& variable : variables_) {
-        Add(variable.name + " = " + Literal(variable.Width(), !OneIn(3)));
-    }
-    Add(variables_.back().name + " = " + std::to_string(Below(9)));
-    Add(reals_[0] + " = " + std::to_string(Below(1000)) + "." + std::to_string(Below(1000)));
-    Add(reals_[1] + " = " + std::to_string(1 + Below(9)) + ".5e-" + std::to_string(Below(5)));
-}
-
-std::string Program::Digits(int width, bool isKnown) {
-    const int kind = Below(5);
-    std::string digits(static_cast<std::size_t>(width), kind == 0 ? '1' : '0');
-    for (char& digit : digits) {
-        if (kind > 2) digit = "01"[Below(2)];
-        if (!isKnown && OneIn(6)) digit = "xz"[Below(2)];
-    }
-    return digits;
-}
-
-std::string Program::Literal(int width, bool isKnown) {
-    if (isKnown && OneIn(4)) {
-        return std::to_string(std::max(width, 7)) + (OneIn(2) ? "'sd" : "'d") +
-               std::to_string(Below(100));
-    }
-    return std::to_string(width) + (OneIn(2) ? "'sb" : "'b") + Digits(width, isKnown);
-}
-
-/** An index that is known only when the program runs. */
-std::string Program::Index() {
-    const std::string& integer = variables_.back().name;
-    return OneIn(2) ? integer : Parenthesised(integer + " + " + std::to_string(Below(50) - 5));
-}
-
-/** Some bits of a variable; `whole` is how it is written. */
-std::string Program::Select(const Variable& variable, const std::string& whole) {
-    const int width = variable.Width();
-    const std::string fieldWidth = std::to_string(1 + Below(width));
-    switch (Below(4)) {
-        case 0:
-            return whole + "[" + Index() + "]";
-        case 1:
-            return whole + "[" + Index() + " +: " + fieldWidth + "]";
-        case 2:
-            return whole + "[" + Index() + " -: " + fieldWidth + "]";
-        default:
-            return ConstantSelect(variable, whole);
-    }
-}
-
-std::string Program::ConstantSelect(const Variable& variable, const std::string& whole) {
-    const int first = Below(variable.Width());
-    const int second = first + Below(variable.Width() - first);
-    const int step = variable.left < variable.right ? 1 : -1;
-    return whole + "[" + std::to_string(variable.left + step * first) + ":" +
-           std::to_string(variable.left + step * second) + "]";
-}
-
-/** The whole word at any index. */
-std::string Program::MemoryWord() {
-    const bool isConstant = OneIn(2);
-    return memory_.name + "[" + (isConstant ? std::to_string(Below(memory_.wordCount)) : Index()) +
-           "]";
-}
-
-std::string Program::Primary() {
-    switch (Below(6)) {
-        case 0:
-            return Literal(Pick(kWidths), !OneIn(3));
-        case 1:
-            return MemoryWord();
-        case 2: {
-            const Variable& variable =
-                variables_[static_cast<std::size_t>(Below(static_cast<int>(vectorCount_)))];
-            return Select(variable, variable.name);
-        }
-        default:
-            return Pick(variables_).name;
-    }
-}
-
-std::string Program::Unary(int depth) {
-    const std::string operand = Parenthesised(Vector(depth - 1));
-    switch (Below(8)) {
-        case 0:
-            return "$signed" + operand;
-        case 1:
-            return "$unsigned" + operand;
-        default:
-            return Parenthesised(Pick(kUnary) + operand);
-    }
-}
-
-std::string Program::Amount() {
-    return OneIn(2) ? std::to_string(Below(70)) : Pick(variables_).name;
-}
-
-/** Parentheses are left out now and then, where any grouping will do. */
-std::string Program::Binary(int depth) {
-    const std::string left = Vector(depth - 1);
-    switch (Below(8)) {
-        case 0:
-            return Parenthesised(left + (OneIn(2) ? " / " : " % ") +
-                                 variables_[vectorCount_ - 1].name);
-        case 1:
-            if (OneIn(3)) {
-                return Parenthesised(Parenthesised(left + " + 2'sd0") + " >>> " + Amount());
-            }
-            return Parenthesised(Parenthesised(left) + " " + Pick(kShifts) + " " + Amount());
-        case 2:
-            return Parenthesised(Parenthesised(left) + " ** " + std::to_string(Below(6)));
-        default: {
-            const std::string text = left + " " + Pick(kBinary) + " " + Vector(depth - 1);
-            return OneIn(4) ? text : Parenthesised(text);
-        }
-    }
-}
-
-std::string Program::Conditional(int depth) {
-    const std::string condition = Vector(depth - 1);
-    const std::string ifTrue = Vector(depth - 1);
-    const std::string ifFalse = Vector(depth - 1);
-    if (OneIn(2)) {
-        return Parenthesised(Parenthesised(condition) + " === 1'b1 ? " + ifTrue + " : " + ifFalse);
-    }
-    return Parenthesised(Parenthesised(condition) + " ? ~(~" + Parenthesised(ifTrue) + ") : ~(~" +
-                         Parenthesised(ifFalse) + ")");
-}
-
-std::string Program::Concatenation(int depth) {
-    if (OneIn(3)) return "{" + std::to_string(1 + Below(3)) + "{" + Vector(depth - 1) + "}}";
-    std::string text = "{" + Vector(depth - 1);
-    for (int count = Below(3); count > 0; --count)
-        text += ", " + Primary();
-    return text + "}";
-}
-
-std::string Program::Vector(int depth) {
-    if (depth <= 0 || OneIn(5)) return Primary();
-    const int kind = Below(10);
-    if (kind < 2) return Unary(depth);
-    if (kind < 7) return Binary(depth);
-    return kind < 8 ? Conditional(depth) : Concatenation(depth);
-}
-
-std::string Program::Real(int depth) {
-    if (depth <= 0 || OneIn(3)) {
-        return OneIn(3) ? std::to_string(Below(50)) + ".25" : Pick(reals_);
-    }
-    return Parenthesised(Real(depth - 1) + " " + Pick(kRealBinary) + " " + Real(depth - 1));
-}
-
-std::string Program::Target() {
-    const Variable& variable =
-        variables_[static_cast<std::size_t>(Below(static_cast<int>(vectorCount_)))];
-    switch (Below(6)) {
-        case 0:
-            return MemoryWord();
-        case 1: {
-            const std::string word = std::to_string(Below(memory_.wordCount));
-            return ConstantSelect(memory_, memory_.name + "[" + word + "]");
-        }
-        case 2:
-            return "{" + Pick(variables_).name + ", " + Select(variable, variable.name) + "}";
-        case 3:
-            return Select(variable, variable.name);
-        default:
-            return variable.name;
-    }
-}
-
-std::string Program::Assignment() {
-    return Target() + " = " + Vector(kMaxDepth);
-}
-
-std::string Program::RealStatement() {
-    if (OneIn(2)) return Pick(reals_) + " = " + Real(2);
-    return memory_.name + "[0] = " + Real(1) + " " + Pick(kRealComparisons) + " " + Real(1);
-}
-
-std::string Program::Display() {
-    const std::string label = "\"" + suffix_.substr(1) + "." + std::to_string(statements_.size());
-    if (OneIn(8))
-        return "$display(" + label + " " + Pick(kRealConversions) + "\", " + Real(2) + ")";
-    if (OneIn(4)) {
-        return "$display(" + label + " " + Pick(kVariableConversions) + "\", " +
-               Pick(variables_).name + ")";
-    }
-    if (OneIn(6)) return "$display(" + label + " %d\", $unsigned(" + Vector(kMaxDepth) + "))";
-    return "$display(" + label + " " + Pick(kConversions) + "\", " + Vector(kMaxDepth) + ")";
-}
-
-void Program::DisplayAll() {
-    const std::string label = "$display(\"" + suffix_.substr(1) + " %b\", ";
-    for (const Variable& variable : variables_)
-        Add(label + variable.name + ")");
-    for (int word = 0; word < memory_.wordCount; ++word) {
-        Add(label + memory_.name + "[" + std::to_string(word) + "])");
-    }
+Program RandomProgram(std::uint64_t seed, int number) {
+    return Generator(seed, number).Make();
 }
 
 }  // namespace tarn::test

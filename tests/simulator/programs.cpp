@@ -1,30 +1,29 @@
 // Runs random programs on tarncalc and on a Verilog simulator and compares what they print.
 //
 //     simulator_programs TARNCALC IVERILOG VVP DIRECTORY COUNT [SEED]
-#include <cstdio>
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <map>
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include "program.h"
 
 namespace {
 
-using tarn::test::Program;
-
-constexpr int kStatementCount = 20;
 constexpr int kProgramsPerRun = 250;  // a simulator starts slowly
 
 struct Tools {
     std::string tarncalc;
     std::string iverilog;
     std::string vvp;
-    std::filesystem::path directory;
+    std::string directory;
+};
+
+struct Count {
+    int lines = 0;
+    int differences = 0;
 };
 
 void Execute(const std::string& command) {
@@ -33,65 +32,44 @@ void Execute(const std::string& command) {
     std::exit(2);
 }
 
-std::vector<std::string> LinesOf(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(file, line);)
-        lines.push_back(line);
-    return lines;
-}
-
-/** The same statements for both, but that the simulator's stand in a module. */
-void WriteFiles(const std::vector<Program>& programs, const std::filesystem::path& directory) {
-    std::ofstream calculator(directory / "programs.txt");
-    std::ofstream simulator(directory / "programs.v");
+/** The programs `first` to `last` - 1: the same for both, but that the simulator's are tasks. */
+void WriteFiles(const std::string& in, std::uint64_t seed, int first, int last) {
+    std::ofstream calculator(in + "programs.txt");
+    std::ofstream simulator(in + "programs.v");
     simulator << "module programs;\n";
-    for (const Program& program : programs) {
-        for (const std::string& declaration : program.Declarations()) {
-            calculator << declaration << ";\n";
-            simulator << declaration << ";\n";
-        }
-        simulator << "task run" << &program - programs.data() << "; begin\n";
-        for (const std::string& statement : program.Statements()) {
-            calculator << statement << '\n';
-            simulator << statement << '\n';
-        }
-        simulator << "end endtask\n";
+    for (int i = first; i < last; ++i) {
+        const auto [declarations, statements] =
+            tarn::test::RandomProgram(seed * 1'000'003 + static_cast<std::uint64_t>(i), i);
+        calculator << declarations << statements;
+        simulator << declarations << "task run" << i << "; begin\n"
+                  << statements << "end endtask\n"
+                  << "initial #" << i << " run" << i << ";\n";
     }
-    simulator << "initial begin\n";
-    for (std::size_t i = 0; i < programs.size(); ++i)
-        simulator << "run" << i << ";\n";
-    simulator << "end\nendmodule\n";
+    simulator << "endmodule\n";
 }
 
-struct Count {
-    std::size_t lines = 0;
-    std::size_t differences = 0;
-};
-
-/** Compares one batch; both print a line for each $display, in the same order. */
-Count Compare(const std::vector<Program>& programs, const Tools& tools) {
-    WriteFiles(programs, tools.directory);
-    const std::string in = tools.directory.string() + "/";
+/** Both print a line for each $display, in the same order. */
+void Compare(const Tools& tools, Count& count) {
+    const std::string& in = tools.directory;
     Execute(tools.iverilog + " -g2012 -o " + in + "programs.vvp " + in + "programs.v 2>" + in +
             "iverilog.log");
     Execute(tools.vvp + " -n " + in + "programs.vvp >" + in + "simulator.out </dev/null");
     Execute(tools.tarncalc + " -f " + in + "programs.txt >" + in + "tarncalc.out 2>" + in +
             "tarncalc.log");
-    const std::vector<std::string> simulated = LinesOf(tools.directory / "simulator.out");
-    const std::vector<std::string> calculated = LinesOf(tools.directory / "tarncalc.out");
-    Count count{std::min(simulated.size(), calculated.size()), 0};
-    if (simulated.size() != calculated.size()) {
-        std::cout << "the simulator prints " << simulated.size() << " lines, tarncalc "
-                  << calculated.size() << '\n';
+    std::ifstream simulator(in + "simulator.out");
+    std::ifstream calculator(in + "tarncalc.out");
+    std::string simulated;
+    std::string calculated;
+    while (std::getline(simulator, simulated)) {
+        ++count.lines;
+        if (!std::getline(calculator, calculated)) calculated = "nothing";
+        if (simulated == calculated) continue;
         ++count.differences;
+        std::cout << "tarncalc  " << calculated << "\nsimulator " << simulated << '\n';
     }
-    for (std::size_t i = 0; i < count.lines; ++i) {
-        if (simulated[i] == calculated[i]) continue;
-        ++count.differences;
-        std::cout << "tarncalc  " << calculated[i] << "\nsimulator " << simulated[i] << '\n';
-    }
-    return count;
+    if (!std::getline(calculator, calculated)) return;
+    ++count.differences;
+    std::cout << "tarncalc  " << calculated << "\nsimulator nothing\n";
 }
 
 }  // namespace
@@ -101,22 +79,16 @@ int main(int argc, char** argv) {
         std::cerr << "usage: simulator_programs TARNCALC IVERILOG VVP DIRECTORY COUNT [SEED]\n";
         return 2;
     }
-    const Tools tools{argv[1], argv[2], argv[3], argv[4]};
+    const Tools tools{argv[1], argv[2], argv[3], std::string(argv[4]) + "/"};
     const int programCount = std::atoi(argv[5]);
     const std::uint64_t seed = argc > 6 ? std::strtoull(argv[6], nullptr, 10) : 1;
     std::filesystem::create_directories(tools.directory);
-    Count total;
+    Count count;
     for (int first = 0; first < programCount; first += kProgramsPerRun) {
-        std::vector<Program> programs;
-        for (int i = first; i < std::min(programCount, first + kProgramsPerRun); ++i) {
-            programs.emplace_back(seed * 1'000'003 + static_cast<std::uint64_t>(i), i,
-                                  kStatementCount);
-        }
-        const Count count = Compare(programs, tools);
-        total.lines += count.lines;
-        total.differences += count.differences;
+        WriteFiles(tools.directory, seed, first, std::min(programCount, first + kProgramsPerRun));
+        Compare(tools, count);
     }
-    std::cout << programCount << " programs, " << total.lines << " comparisons, "
-              << total.differences << " differences\n";
-    return total.differences == 0 && total.lines > 0 ? 0 : 1;
+    std::cout << programCount << " programs, " << count.lines << " comparisons, "
+              << count.differences << " differences\n";
+    return count.differences == 0 && count.lines > 0 ? 0 : 1;
 }
