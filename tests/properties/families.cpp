@@ -17,9 +17,9 @@ Two DrawTwoOperands(Gen& gen, bool fourState) {
 }
 
 const std::vector<Family>& AllFamilies() {
-    static const std::vector<Family> families = {
-        ArithFamily(),  LogicFamily(), CompareFamily(), SelectFamily(), AssignFamily(),
-        MemoryFamily(), RealFamily(),  TextFamily(),    ParseFamily(),  LiteralFamily()};
+    static const std::vector<Family> families = {ArithFamily(),  LogicFamily(),  CompareFamily(),
+                                                 SelectFamily(), AssignFamily(), RealFamily(),
+                                                 TextFamily(),   ParseFamily(),  LiteralFamily()};
     return families;
 }
 

@@ -11,7 +11,6 @@ Family LogicFamily();
 Family CompareFamily();
 Family SelectFamily();
 Family AssignFamily();
-Family MemoryFamily();
 Family RealFamily();
 Family TextFamily();
 Family ParseFamily();

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ostream>
 #include <stdexcept>
 #include <string>
 
@@ -118,22 +117,6 @@ Vec operator""_v(const char* text, std::size_t length) {
     const Vec vec = FromDigits(std::stoi(literal), static_cast<int>(kind) + 1,
                                std::string_view(literal).substr(base + 1));
     return isSigned ? SignFilled(vec) : vec;
-}
-
-std::ostream& operator<<(std::ostream& out, const Vec& vec) {
-    constexpr std::size_t kShown = 4;
-    const std::vector<VectorWord> words = ToWords(vec);
-    const auto flags = out.flags();
-    out << "Words(" << std::dec << vec.width << ", {" << std::hex;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        if (words.size() > 2 * kShown && i == kShown) {
-            i = words.size() - kShown;
-            out << ", ... " << std::dec << i - kShown << std::hex << " words ...";
-        }
-        out << (i > 0 ? ", {0x" : "{0x") << words[i].aval << ", 0x" << words[i].bval << '}';
-    }
-    out.flags(flags);
-    return out << "})";
 }
 
 }  // namespace tarn::test

@@ -3,7 +3,6 @@
 #define TARN_TESTS_SUPPORT_VEC_H
 
 #include <cstdint>
-#include <iosfwd>
 #include <string_view>
 #include <vector>
 
@@ -47,9 +46,6 @@ Vec FromDigits(int width, int bitsPerDigit, std::string_view digits, std::size_t
 // "4'b01zx"_v, "9'o7x"_v, "40'hdead"_v in clean storage; with an s before the base ("8'sh80"_v) in
 // signed storage.
 Vec operator""_v(const char* text, std::size_t length);
-
-// As the call of Words that gives the vector; the middle of a long one is left out.
-std::ostream& operator<<(std::ostream& out, const Vec& vec);
 
 }  // namespace tarn::test
 
