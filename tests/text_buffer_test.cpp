@@ -1,8 +1,7 @@
 // The text buffer, watched from outside: this program knows the size of every array that lives, and
 // loads and unloads the library for each test, which so begins with a new buffer.
-#include <algorithm>
 #include <climits>
-#include <cstdlib>
+#include <cstdint>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <new>
@@ -22,12 +21,6 @@ class TextBuffer : public testing::Test {
     void SetUp() override {
         ASSERT_TRUE(library_.IsLoaded());
         WatchStorageOf(library_);
-        Find("tarn_GetGlobalBuffer", &get);
-        Find("tarn_CopyToGlobalBuffer", &copy);
-        Find("tarn_CopyNToGlobalBuffer", &copyN);
-        Find("tarn_SignedConvertToDec", &signedDecimal);
-        Find("tarn_UnsignedConvertToDec", &unsignedDecimal);
-        Find("tarn_CreateReal", &createReal);
     }
 
     void TearDown() override {
@@ -37,22 +30,15 @@ class TextBuffer : public testing::Test {
         EXPECT_EQ(CapacityOf(last), 0U) << "the buffer outlived the library";
     }
 
-    template <class Function>
-    void Find(const char* name, Function** function) {
-        *function = library_.Find<Function>(name);
-        ASSERT_NE(*function, nullptr) << name;
-    }
-
-    decltype(&tarn_GetGlobalBuffer) get = nullptr;
-    decltype(&tarn_CopyToGlobalBuffer) copy = nullptr;
-    decltype(&tarn_CopyNToGlobalBuffer) copyN = nullptr;
-    decltype(&tarn_SignedConvertToDec) signedDecimal = nullptr;
-    decltype(&tarn_UnsignedConvertToDec) unsignedDecimal = nullptr;
-    decltype(&tarn_CreateReal) createReal = nullptr;
-    GuardedBlock block;
-
-  private:
     LoadedLibrary library_{TARNLIB_LIBRARY};
+#define TARN_FIND(name) library_.Find<decltype(name)>(#name)
+    decltype(&tarn_GetGlobalBuffer) get = TARN_FIND(tarn_GetGlobalBuffer);
+    decltype(&tarn_CopyToGlobalBuffer) copy = TARN_FIND(tarn_CopyToGlobalBuffer);
+    decltype(&tarn_CopyNToGlobalBuffer) copyN = TARN_FIND(tarn_CopyNToGlobalBuffer);
+    decltype(&tarn_SignedConvertToDec) signedDecimal = TARN_FIND(tarn_SignedConvertToDec);
+    decltype(&tarn_UnsignedConvertToDec) unsignedDecimal = TARN_FIND(tarn_UnsignedConvertToDec);
+    decltype(&tarn_CreateReal) createReal = TARN_FIND(tarn_CreateReal);
+    GuardedBlock block;
 };
 
 TEST_F(TextBuffer, CapacityDoublesFromTenAndNeverShrinks) {

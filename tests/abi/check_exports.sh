@@ -1,50 +1,14 @@
 #!/bin/sh
-# Compares what a built library exports, what the headers declare and the one list of exports.
-#
-#   check_exports.sh LIBRARY HEADERS_DIR LIST
-#
-# Also the layout of the unprefixed data items and, of a shared object, its SONAME. Says what is missing
-# where.
-set -eu
-export LC_ALL=C
-
-library=$1
-headers=$2
-list=$3
-
-# The items in their fixed order: eight bytes each, without gaps.
-items="ArrayAEB DirectAEB EventAEB VectorAAIB RealAAIB ShortRealAAIB ArrayAAIB ClassAAIB VectorAEB
-    BitAEB RealAEB ShortRealAEB ClassAEB"
-
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failed=0
-
-fail() {
-    echo "check_exports: $*" >&2
-    failed=1
-}
+# check_exports.sh LIBRARY HEADERS_DIR LIST compares what a built library exports, what the headers
+# declare and the one list of exports; also the layout of the unprefixed data items and, of a shared
+# object, its SONAME.
+. "$(dirname "$0")/../support/check.sh"
+library=$1 headers=$2 list=$3
 
 # An exported declaration is a statement with TARNLIB_API; its name stands before the first bracket.
-declared_names() {
-    cat "$headers"/*.h | grep -v '^ *#' | tr '\n' ' ' |
-        sed -e 's:/\*[^*]*\*\+\([^/*][^*]*\*\+\)*/: :g' | tr ';' '\n' |
-        sed -n -e '/TARNLIB_API/{s/[[(].*//;s/ *$//;s/.*[ *]//;p}'
-}
-
-# what_is_missing FILE IN_FILE: every name of FILE that IN_FILE lacks.
-what_is_missing() {
-    comm -23 "$work/$1" "$work/$2" | while read -r name; do
-        echo "  $name"
-    done
-}
-
-compare() {
-    missing=$(what_is_missing "$1" "$2")
-    [ -z "$missing" ] || fail "in the $1, but not in the $2:
-$missing"
-}
-
+cat "$headers"/*.h | grep -v '^ *#' | tr '\n' ' ' |
+    sed -e 's:/\*[^*]*\*\+\([^/*][^*]*\*\+\)*/: :g' | tr ';' '\n' |
+    sed -n -e '/TARNLIB_API/{s/[[(].*//;s/ *$//;s/.*[ *]//;p}' | sort >"$work/headers"
 case $library in
 *.dll)
     nm --defined-only --format=posix "$library" | sort >"$work/symbols"
@@ -55,33 +19,25 @@ case $library in
     cut -d ' ' -f 1 "$work/symbols" >"$work/library"
     ;;
 esac
-declared_names | sort >"$work/headers"
-cp "$list" "$work/list"
-sort -c -u "$work/list" || fail "the list is not sorted, or holds a name twice"
+sort -c -u "$list" || fail "the list is not sorted, or holds a name twice"
+for other in library headers; do
+    differences=$(diff "$list" "$work/$other") ||
+        fail "names that are only in the list (<) or only in the $other (>):
+$differences"
+done
 
-compare library list
-compare list library
-compare headers list
-compare list headers
-
+# The items in their fixed order: eight bytes each, without gaps. A module's symbols have no size;
+# there the next item shows it.
 expected=
-for item in $items; do
-    # A module's symbols have no size; there the next item shows it.
-    address=$(sed -n "s/^$item [BDR] \([0-9a-f]*\) \(0*8\)\?\$/\1/p" "$work/symbols")
-    if [ -z "$address" ]; then
-        fail "$item is not a data item of 8 bytes"
-        break
-    fi
-    address=$((0x$address))
-    if [ -n "$expected" ] && [ "$address" -ne "$expected" ]; then
-        fail "$item does not lie right behind the item before it"
-    fi
+for item in ArrayAEB DirectAEB EventAEB VectorAAIB RealAAIB ShortRealAAIB ArrayAAIB ClassAAIB \
+    VectorAEB BitAEB RealAEB ShortRealAEB ClassAEB; do
+    address=$(sed -n "s/^$item [BDR] \([0-9a-f]*\) \(0*8\)\?\$/0x\1/p" "$work/symbols")
+    [ -n "$address" ] || fail "$item is not a data item of 8 bytes"
+    [ $((address)) -eq $((${expected:-$address})) ] || fail "$item is not right behind the last item"
     expected=$((address + 8))
 done
 
-case $library in *.dll) exit "$failed" ;; esac
+case $library in *.dll) exit ;; esac
 major=$(sed -n 's/^#define TARNLIB_VERSION_MAJOR //p' "$headers/version.h")
 soname=$(objdump -p "$library" | sed -n 's/^ *SONAME *//p')
 [ "$soname" = "libtarnlib.so.$major" ] || fail "SONAME is '$soname', not libtarnlib.so.$major"
-
-exit "$failed"

@@ -1,14 +1,10 @@
 #!/bin/sh
-# Builds a C program with what pkg-config tells of the installed library, and runs it.
-#
-#   c_consumer.sh SOURCE PROGRAM VERSION
-set -eu
-source=$1
-program=$2
-version=$3
+# c_consumer.sh SOURCE PROGRAM VERSION builds a C program with what pkg-config tells of the installed
+# library, and runs it.
+. "$(dirname "$0")/../support/check.sh"
 
-pkg-config --exact-version="$version" --print-errors tarnlib
+pkg-config --exact-version="$3" --print-errors tarnlib
 # As the manual page says. Not quoted: several arguments.
-$CC -std=c11 "$source" $(pkg-config --cflags --libs tarnlib) \
-    -Wl,-rpath,"$(pkg-config --variable=libdir tarnlib)" -o "$program"
-"$program"
+$CC -std=c11 "$1" $(pkg-config --cflags --libs tarnlib) \
+    -Wl,-rpath,"$(pkg-config --variable=libdir tarnlib)" -o "$2"
+"$2"

@@ -14,28 +14,18 @@ constexpr std::byte kPaint{0x5C};
 
 }  // namespace
 
-GuardedBlock::~GuardedBlock() {
-    Unmap();
-}
-
 void GuardedBlock::Unmap() {
-    if (first_ == nullptr) return;
-    UnmapGuarded(first_, static_cast<std::size_t>(last_ - first_));
-    first_ = nullptr;
-}
-
-void GuardedBlock::Map(std::size_t byteCount) {
-    Unmap();
-    const std::size_t page = PageSize();
-    const std::size_t inside = (byteCount / page + 1) * page;
-    first_ = MapGuarded(inside);
-    if (first_ == nullptr) throw std::bad_alloc();
-    last_ = first_ + inside;
+    if (first_ != nullptr) UnmapGuarded(first_, static_cast<std::size_t>(last_ - first_));
 }
 
 std::byte* GuardedBlock::Place(std::size_t byteCount, Edge edge) {
-    if (first_ == nullptr || static_cast<std::size_t>(last_ - first_) < byteCount + 4) {
-        Map(byteCount + 4);
+    if (static_cast<std::size_t>(last_ - first_) < byteCount + 4) {
+        const std::size_t page = PageSize(), inside = ((byteCount + 4) / page + 1) * page;
+        std::byte* const mapped = MapGuarded(inside);
+        if (mapped == nullptr) throw std::bad_alloc();
+        Unmap();
+        first_ = mapped;
+        last_ = mapped + inside;
     }
     placedCount_ = byteCount;
     placed_ = edge == Edge::kBeginsAtPage ? first_ : last_ - byteCount;
@@ -53,9 +43,7 @@ const char* GuardedBlock::PlaceCharacters(std::string_view characters, Edge edge
 }
 
 const char* GuardedBlock::PlaceText(std::string_view text, Edge edge) {
-    std::string terminated(text);
-    terminated.push_back('\0');
-    return PlaceCharacters(terminated, edge);
+    return PlaceCharacters(std::string(text) + '\0', edge);
 }
 
 bool GuardedBlock::MarginsAreIntact() const {

@@ -16,7 +16,7 @@ inline constexpr Edge kEdges[] = {Edge::kEndsAtPage, Edge::kBeginsAtPage, Edge::
 class GuardedBlock {
   public:
     GuardedBlock() = default;
-    ~GuardedBlock();
+    ~GuardedBlock() { Unmap(); }
     GuardedBlock(const GuardedBlock&) = delete;
     GuardedBlock& operator=(const GuardedBlock&) = delete;
 
@@ -31,7 +31,6 @@ class GuardedBlock {
     bool MarginsAreIntact() const;
 
   private:
-    void Map(std::size_t byteCount);
     void Unmap();
 
     std::byte* first_ = nullptr;

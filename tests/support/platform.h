@@ -17,7 +17,11 @@ void UnmapGuarded(std::byte* first, std::size_t byteCount);
 // call changes nothing.
 void OnStrayAccess(void (*handler)());
 
-// Also where a handler of stray accesses may not do much.
+// Calls `handler` and ends the process when it has computed for about that many seconds, unless the
+// next call comes first; 0 is no deadline. Does nothing on Windows, where ctest has a limit.
+void SetDeadline(unsigned seconds, void (*handler)());
+
+// Also where such a handler may not do much.
 void WriteError(const char* line);
 
 // Without its directories.

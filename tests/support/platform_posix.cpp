@@ -1,8 +1,11 @@
+#include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
 #include <sys/mman.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include "support/platform.h"
@@ -26,24 +29,35 @@ void UnmapGuarded(std::byte* first, std::size_t byteCount) {
     munmap(first - PageSize(), byteCount + 2 * PageSize());
 }
 
-namespace {
-
-void (*strayAccessHandler)() = nullptr;
-struct sigaction previousAction = {};
-
-void HandleStrayAccess(int signalNumber) {
-    strayAccessHandler();
-    sigaction(signalNumber, &previousAction, nullptr);
+void OnStrayAccess(void (*handler)()) {
+    static void (*first)() = nullptr;
+    static struct sigaction previous = {};
+    if (first != nullptr) return;
+    first = handler;
+    struct sigaction action = {};
+    action.sa_handler = [](int signalNumber) {
+        first();
+        sigaction(signalNumber, &previous, nullptr);
+    };
+    sigaction(SIGSEGV, &action, &previous);
 }
 
-}  // namespace
-
-void OnStrayAccess(void (*handler)()) {
-    if (strayAccessHandler != nullptr) return;
-    strayAccessHandler = handler;
-    struct sigaction action = {};
-    action.sa_handler = HandleStrayAccess;
-    sigaction(SIGSEGV, &action, &previousAction);
+// Seconds of the processor's time, so that neither a debugger nor a busy machine uses them up. The
+// timer runs on from the first call: a test's runs are too short for a system call in each.
+void SetDeadline(unsigned seconds, void (*handler)()) {
+    static void (*current)();
+    static std::atomic<unsigned> left = 0;
+    static const bool isCounting = [] {
+        signal(SIGVTALRM, [](int) {
+            if (left == 0 || --left > 0) return;
+            current();
+            _exit(EXIT_FAILURE);
+        });
+        const itimerval everySecond = {{1, 0}, {1, 0}};
+        return setitimer(ITIMER_VIRTUAL, &everySecond, nullptr) == 0;
+    }();
+    current = handler;
+    left = isCounting ? seconds : 0;
 }
 
 void WriteError(const char* line) {

@@ -44,6 +44,8 @@ void OnStrayAccess(void (*handler)()) {
     strayAccessHandler = handler;
 }
 
+void SetDeadline(unsigned, void (*)()) {}
+
 void WriteError(const char* line) {
     const auto count = static_cast<DWORD>(std::strlen(line));
     DWORD written;

@@ -1,8 +1,7 @@
 // The library's array forms of new and delete are those of the program, and so are these.
-#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <iterator>
+#include <map>
 #include <new>
 
 #include "support/watched_storage.h"
@@ -13,16 +12,10 @@ std::size_t mostBytes = SIZE_MAX;
 
 namespace {
 
-struct LiveArray {
-    const void* address;
-    std::size_t byteCount;
-};
-LiveArray liveArrays[256] = {};
-
-LiveArray* FindArray(const void* address) {
-    const auto isAt = [&](const LiveArray& array) { return array.address == address; };
-    LiveArray* const found = std::find_if(std::begin(liveArrays), std::end(liveArrays), isAt);
-    return found == std::end(liveArrays) ? nullptr : found;
+// Never destroyed, for arrays may outlive this program's other objects.
+std::map<const void*, std::size_t>& LiveArrays() {
+    static auto& arrays = *new std::map<const void*, std::size_t>;
+    return arrays;
 }
 
 }  // namespace
@@ -30,43 +23,28 @@ LiveArray* FindArray(const void* address) {
 void WatchStorageOf(const LoadedLibrary&) {}
 
 std::size_t CapacityOf(const void* address) {
-    const LiveArray* const array = FindArray(address);
-    return array == nullptr ? 0 : array->byteCount;
+    const auto found = LiveArrays().find(address);
+    return found == LiveArrays().end() ? 0 : found->second;
 }
 
 std::size_t LiveArrayCount() {
-    const auto isLive = [](const LiveArray& array) { return array.address != nullptr; };
-    const auto count = std::count_if(std::begin(liveArrays), std::end(liveArrays), isLive);
-    return static_cast<std::size_t>(count);
+    return LiveArrays().size();
 }
 
-namespace {
-
-// What the operators below do, which can't be members of a namespace.
-void* Allocate(std::size_t byteCount) {
-    void* const address = byteCount > mostBytes ? nullptr : std::malloc(byteCount);
-    if (address == nullptr) throw std::bad_alloc();
-    if (LiveArray* const unused = FindArray(nullptr)) *unused = {address, byteCount};
-    return address;
-}
-
-void Free(void* address) noexcept {
-    LiveArray* const array = address == nullptr ? nullptr : FindArray(address);
-    if (array != nullptr) *array = {};
-    std::free(address);
-}
-
-}  // namespace
 }  // namespace tarn::test
 
 void* operator new[](std::size_t byteCount) {
-    return tarn::test::Allocate(byteCount);
+    void* const address = byteCount > tarn::test::mostBytes ? nullptr : std::malloc(byteCount);
+    if (address == nullptr) throw std::bad_alloc();
+    tarn::test::LiveArrays()[address] = byteCount;
+    return address;
 }
 
 void operator delete[](void* address) noexcept {
-    tarn::test::Free(address);
+    tarn::test::LiveArrays().erase(address);
+    std::free(address);
 }
 
 void operator delete[](void* address, std::size_t) noexcept {
-    tarn::test::Free(address);
+    operator delete[](address);
 }
