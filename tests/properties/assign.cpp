@@ -97,12 +97,13 @@ Case ReadField(auto* function, const Vec& stored, int index, int width) {
 
 Case ReadInner(Gen& gen) {
     const Write drawn = DrawInnerWrite(gen, DrawDefinedWidth(gen));
-    return ReadField(tarn_MemoryWordPartselect, drawn.target, drawn.index, drawn.width);
+    return ReadField(TARN_FUNCTION(tarn_MemoryWordPartselect), drawn.target, drawn.index,
+                     drawn.width);
 }
 Case ReadIndexed(Gen& gen) {
     const Vec stored = gen.FourState(DrawDefinedWidth(gen));
     const int width = DrawDefinedWidth(gen), index = DrawIndex(gen, stored.width, width);
-    return ReadField(tarn_MemoryWordIndexedPartselect, stored, index, width);
+    return ReadField(TARN_FUNCTION(tarn_MemoryWordIndexedPartselect), stored, index, width);
 }
 
 // A field that lies outside is not written, and leaves the spare bits; one that is clears them.

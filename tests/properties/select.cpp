@@ -32,8 +32,8 @@ Party WordOf(const Vec& vec, int low) {
 
 Case ReadField(Gen& gen) {
     const auto [source, low, width] = DrawRead(gen);
-    return Case(tarn_Partselect, Result(Field(source, low, width)), WordOf(source, low), low % 32,
-                width);
+    return Case(TARN_FUNCTION(tarn_Partselect), Result(Field(source, low, width)),
+                WordOf(source, low), low % 32, width);
 }
 
 Case ReadSignedField(Gen& gen) {
@@ -41,8 +41,8 @@ Case ReadSignedField(Gen& gen) {
     const int resultWidth = gen.OneIn(2) ? width : gen.AnyWidth();
     const Vec field = SignFilled(Field(source, low, width));
     const Vec wide = width < 1 ? Vec{} : Extended(field, std::max(resultWidth, width), kSign);
-    return Case(tarn_SignedPartselect, resultWidth, Result(wide), WordOf(source, low), low % 32,
-                width);
+    return Case(TARN_FUNCTION(tarn_SignedPartselect), resultWidth, Result(wide),
+                WordOf(source, low), low % 32, width);
 }
 
 // Nothing may be read where no bit of the field is the source's.
@@ -51,9 +51,10 @@ Case ReadIndexedField(Gen& gen) {
     const int width = DrawDefinedWidth(gen), index = DrawIndex(gen, source.width, width);
     const Party field = Result(Field(source, index, width));
     if (HasBitInside(source.width, index, width)) {
-        return Case(tarn_IndexedPartselect, field, source, index, width);
+        return Case(TARN_FUNCTION(tarn_IndexedPartselect), field, source, index, width);
     }
-    return Case(tarn_IndexedPartselect, field, source.width, Unreadable{}, index, width);
+    return Case(TARN_FUNCTION(tarn_IndexedPartselect), field, source.width, Unreadable{}, index,
+                width);
 }
 
 std::tuple<Vec, int> DrawBit(Gen& gen) {
@@ -71,7 +72,7 @@ Case FillWithX(Gen& gen) {
     const Vec words = gen.FourState(count < 1 ? 0 : base + count);
     Vec filled = Clean(AllX(words.width));
     std::copy_n(words.bits.begin(), count < 1 ? 0 : base, filled.bits.begin());
-    return Case(tarn_CleanBasedFillX, Target(words, filled), count, base);
+    return Case(TARN_FUNCTION(tarn_CleanBasedFillX), Target(words, filled), count, base);
 }
 
 /*------------------------------------------------------------------------------------------------
@@ -117,7 +118,7 @@ Case Concatenate(Gen& gen) {
                                     : DrawDefinedWidth(gen);
     Vec destination = gen.FourState(span);
     Prepare(gen, destination, operand, offset, 0);
-    return Case(tarn_Concatenate, span,
+    return Case(TARN_FUNCTION(tarn_Concatenate), span,
                 Target(destination, Placed(destination, operand, offset, span)), operand, offset);
 }
 
@@ -126,7 +127,7 @@ Case ConcatenateShifted(Gen& gen) {
     Vec destination = gen.FourState(operand.width);
     const int place = gen.Between(0, 32);
     Prepare(gen, destination, operand, place, place);
-    return Case(tarn_ConcatenateShifted, operand.width,
+    return Case(TARN_FUNCTION(tarn_ConcatenateShifted), operand.width,
                 Target(destination, Placed(destination, operand, 0, operand.width)),
                 Operand(operand));
 }

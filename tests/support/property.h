@@ -13,6 +13,11 @@
 #include "support/gen.h"
 #include "support/model.h"
 
+#if defined(TARN_TEST_INLINE_FORMS)
+#define TARNLIB_INLINE_ANY_WIDTH
+#include <tarnlib/inline.h>
+#endif
+
 namespace tarn::test {
 
 struct Property {
@@ -77,10 +82,25 @@ template <class Function, class Model, class Draw>
 Property Row(const char* name, Function* function, Model model, Draw draw, int runs = kRuns) {
     return {name, [=](Gen& gen) { return CaseOf(function, model, draw(gen)); }, runs};
 }
+// The export, or its inline form, which has no address of its own.
+#if defined(TARN_TEST_INLINE_FORMS)
+template <class Function>
+struct Throwing {
+    using Type = Function;
+};
+template <class Returned, class... Parameters>
+struct Throwing<Returned(Parameters...) noexcept> {
+    using Type = Returned(Parameters...);
+};
+#define TARN_FUNCTION(name) \
+    static_cast<Throwing<decltype(name)>::Type*>([](auto... x) { return name(x...); })
+#else
+#define TARN_FUNCTION(name) name
+#endif
 // By the export's name alone: a row, one made by a function of the family, a call by hand.
-#define TARN_ROW(name, ...) Row(#name, name, __VA_ARGS__)
-#define TARN_ROW_OF(make, name, ...) make(#name, name __VA_OPT__(, ) __VA_ARGS__)
-#define TARN_CALL(name, ...) Case(name, __VA_ARGS__).Named(#name)
+#define TARN_ROW(name, ...) Row(#name, TARN_FUNCTION(name), __VA_ARGS__)
+#define TARN_ROW_OF(make, name, ...) make(#name, TARN_FUNCTION(name) __VA_OPT__(, ) __VA_ARGS__)
+#define TARN_CALL(name, ...) Case(TARN_FUNCTION(name), __VA_ARGS__).Named(#name)
 
 // Widths are often equal; two operands are sometimes the same words, so that they can share
 // storage.
