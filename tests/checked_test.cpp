@@ -3,6 +3,7 @@
 #include <climits>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <list>
 #include <type_traits>
 
 #include <tarnlib.h>
@@ -58,10 +59,9 @@ TEST(CheckedDeathTest, ReportsEachAddress) {
                 Places at(std::begin(room), std::begin(room) + drawn.Parties().size());
                 const auto call = [&] { drawn.CallAt(at); };
                 if (!drawn.HasArgument(i)) continue;
-                at[i] = nullptr;
-                at[i] -= party.offset;
+                at[i] = reinterpret_cast<std::byte*>(0 - party.offset);
                 ExpectReport(call, property.name, ".* must (be the address of|not be null)");
-                at[i] += 2;
+                at[i] = reinterpret_cast<std::byte*>(2 - party.offset);
                 if (party.isWords) ExpectReport(call, property.name, ".* aligned");
             }
         }
@@ -251,9 +251,10 @@ TEST(CheckedDeathTest, ReportsWhatArgumentsOweEachOther) {
     }
 }
 
-// A vector of zeros, never freed.
+// A vector of zeros that lasts.
 VectorWord* Wide(int width) {
-    return (new std::vector<VectorWord>(static_cast<std::size_t>(width) / 32 + 1))->data();
+    static std::list<std::vector<VectorWord>> vectors;
+    return vectors.emplace_back(static_cast<std::size_t>(width) / 32 + 1).data();
 }
 
 // Legal at the border of a duty, where the properties draw nothing.

@@ -12,7 +12,7 @@ namespace tarncalc {
 namespace {
 
 constexpr std::size_t WordCount(int width) {
-    return static_cast<std::size_t>((width - 1) / kWordBits + 1);
+    return static_cast<std::size_t>((width - 1) / kWordBits) + 1;
 }
 
 void* AllocateWords(std::uint64_t byteCount) {
