@@ -86,7 +86,7 @@ TEST(NaturalRadix, DigitsBecomeLimbsAndBack) {
 
 // The last one has the most digits of 10,000,000 bits.
 TEST(NaturalRadix, WideNumbers) {
-    for (const std::size_t count : {9'864U, 19'728U, 315'653U, 1'000'000U, 3'010'300U}) {
+    for (const std::size_t count : {9'864U, 19'728U, 315'653U, 3'010'300U}) {
         for (Gen& gen : Seeds(1))
             ASSERT_NO_FATAL_FAILURE(Check(gen, '3' + TakeDigits(gen, count - 1), kAny));
     }
