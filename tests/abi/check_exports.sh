@@ -6,7 +6,7 @@
 library=$1 headers=$2 list=$3
 
 # An exported declaration is a statement with TARNLIB_API; its name stands before the first bracket.
-cat "$headers"/*.h | grep -v '^ *#' | tr '\n' ' ' |
+cat "$headers"/*.h | sed -e :a -e '/\\$/N; s/\\\n//; ta' | grep -v '^ *#' | tr '\n' ' ' |
     sed -e 's:/\*[^*]*\*\+\([^/*][^*]*\*\+\)*/: :g' | tr ';' '\n' |
     sed -n -e '/TARNLIB_API/{s/[[(].*//;s/ *$//;s/.*[ *]//;p}' | sort >"$work/headers"
 case $library in
