@@ -1,11 +1,15 @@
-// What the testbenches share: where operands come from, and the count of what was compared.
+// What the testbenches share: the widths, where operands come from, and the count of what was
+// compared.
+
+localparam COUNT = 17;
+localparam [16*COUNT-1:0] WIDTHS = {
+    16'd1, 16'd2, 16'd3, 16'd7, 16'd8, 16'd16, 16'd31, 16'd32, 16'd33, 16'd55, 16'd63, 16'd64,
+    16'd65, 16'd100, 16'd128, 16'd129, 16'd300};
 
 // NAME.v is a vector of WIDTH bits; its sign is a parameter, which no declaration can have.
 `define VECTOR(NAME, WIDTH, IS_SIGNED) \
-    generate \
-        if (IS_SIGNED) begin : NAME reg signed [WIDTH-1:0] v; end \
-        else begin : NAME reg [WIDTH-1:0] v; end \
-    endgenerate
+    if (IS_SIGNED) begin : NAME reg signed [WIDTH-1:0] v; end \
+    else begin : NAME reg [WIDTH-1:0] v; end
 
 // The library's result is in `got` after CALL.
 `define CHECK(CALL, EXPECTED) \
@@ -15,27 +19,27 @@ module common;
     localparam MAX = 320;
 
     integer seed = 1;
-    integer comparisons = 0;
-    integer differences = 0;
+    integer comparisons = 0, differences = 0;
     integer rounds = 1;
-    reg is_given;
-    initial is_given = $value$plusargs("rounds=%d", rounds);
+    reg is_given = $value$plusargs("rounds=%d", rounds);
+
+    task count(input is_same);
+        comparisons = comparisons + 1;
+        differences = differences + (is_same !== 1'b1);
+    endtask
 
     function integer below(input integer bound);
         below = $unsigned($random(seed)) % bound;
     endfunction
 
     function [MAX-1:0] noise(input integer width);
-        integer i;
-        for (i = 0; i < width; i = i + 32) noise[i +: 32] = $random(seed);
+        for (integer i = 0; i < width; i = i + 32) noise[i +: 32] = $random(seed);
     endfunction
 
     // Long runs of equal bits, as carries and borrows like them.
     function [MAX-1:0] runs(input integer width);
-        begin
-            runs = -below(2);
-            repeat (below(6)) runs = runs ^ (~320'd0 << below(width));
-        end
+        runs = -below(2);
+        repeat (below(6)) runs = runs ^ (~320'd0 << below(width));
     endfunction
 
     function [MAX-1:0] known(input integer width);
@@ -52,23 +56,21 @@ module common;
 
     // An operand: a known value, or one in three times a value with X and Z bits.
     function [MAX-1:0] draw(input integer width);
-        begin
-            draw = known(width);
-            case (below(24))
-                0: draw = {MAX{1'bx}};
-                1: draw = {MAX{1'bz}};
-                2: draw[below(width)] = 1'bx;
-                3: draw[below(width)] = 1'bz;
-                4: draw[width - 1] = 1'bx;
-                5: draw[width - 1] = 1'bz;
-                6, 7: begin
-                    draw = draw ^ (noise(width) & runs(width) & {MAX{1'bx}});
-                    repeat (below(4)) draw[below(width) +: 5] = 5'bz;
-                    repeat (below(2)) draw[below(width) +: 40] = 40'bz;
-                end
-                default: ;
-            endcase
-        end
+        draw = known(width);
+        case (below(24))
+            0: draw = {MAX{1'bx}};
+            1: draw = {MAX{1'bz}};
+            2: draw[below(width)] = 1'bx;
+            3: draw[below(width)] = 1'bz;
+            4: draw[width - 1] = 1'bx;
+            5: draw[width - 1] = 1'bz;
+            6, 7: begin
+                draw = draw ^ (noise(width) & runs(width) & {MAX{1'bx}});
+                repeat (below(4)) draw[below(width) +: 5] = 5'bz;
+                repeat (below(2)) draw[below(width) +: 40] = 40'bz;
+            end
+            default: ;
+        endcase
     endfunction
 
     // An amount or an index: a number of the size of `range`, or any operand.

@@ -12,14 +12,11 @@ module vector #(parameter W = 8, IS_SIGNED = 0);
     integer matched, i;
 
     task compare(input [8*40:1] call, input is_same);
-        begin
-            common.comparisons = common.comparisons + 1;
-            if (!is_same) begin
-                common.differences = common.differences + 1;
-                $display("%m %0s: a = %0d'b%b", call, W, a.v);
-                $display("    tarnlib   %b, %h, \"%0s\"", got, $realtobits(x), text);
-                $display("    simulator %b, %h, \"%0s\"", expected, $realtobits(y), expected_text);
-            end
+        common.count(is_same);
+        if (!is_same) begin
+            $display("%m %0s: a = %0d'b%b", call, W, a.v);
+            $display("    tarnlib   %b, %h, \"%0s\"", got, $realtobits(x), text);
+            $display("    simulator %b, %h, \"%0s\"", expected, $realtobits(y), expected_text);
         end
     endtask
 
@@ -29,83 +26,65 @@ module vector #(parameter W = 8, IS_SIGNED = 0);
         $sformat(expected_text, FORMAT, VALUE); \
         compare(`"CALL`", text === expected_text); \
     end
-
-    task texts;
-        begin
-            `CHECK_TEXT($tarn_bin_text(text, a.v, -1), "%b", a.v)
-            `CHECK_TEXT($tarn_bin_text(text, a.v, 0), "%0b", a.v)
-            `CHECK_TEXT($tarn_oct_text(text, a.v, -1), "%o", a.v)
-            `CHECK_TEXT($tarn_oct_text(text, a.v, 0), "%0o", a.v)
-            `CHECK_TEXT($tarn_hex_text(text, a.v, -1), "%h", a.v)
-            `CHECK_TEXT($tarn_hex_text(text, a.v, 0), "%0h", a.v)
-            `CHECK_TEXT($tarn_string_text(text, a.v, 1), "%s", a.v)
-            `CHECK_TEXT($tarn_dec_text(text, a.v, 0, 0), "%0d", a.v)
-            wider.v = a.v;
-            if (IS_SIGNED) `CHECK_TEXT($tarn_dec_text(text, a.v, -1, 0), "%d", wider.v)  // places
-            else `CHECK_TEXT($tarn_dec_text(text, a.v, -1, 0), "%d", a.v)
-        end
-    endtask
-
 // The digits of a value, read back.
-`define CHECK_PARSE(CALL, FORMAT, VALUE) \
+`define CHECK_PARSE(TASK, FORMAT, VALUE) \
     begin \
         $sformat(text, FORMAT, VALUE); \
         matched = $sscanf(text, FORMAT, magnitude); \
-        `CHECK(CALL, magnitude) \
+        `CHECK(TASK(got, text), magnitude) \
     end
+`define CHECK_RADIX(TEXT_TASK, PARSE_TASK, FORMAT, SHORT_FORMAT) \
+    `CHECK_TEXT(TEXT_TASK(text, a.v, -1), FORMAT, a.v) \
+    `CHECK_TEXT(TEXT_TASK(text, a.v, 0), SHORT_FORMAT, a.v) \
+    `CHECK_PARSE(PARSE_TASK, FORMAT, a.v)
 
-    task parses;
-        begin
-            `CHECK_PARSE($tarn_parse_bin(got, text), "%b", a.v)
-            `CHECK_PARSE($tarn_parse_oct(got, text), "%o", a.v)
-            `CHECK_PARSE($tarn_parse_hex(got, text), "%h", a.v)
-            if (^a.v !== 1'bx) `CHECK_PARSE($tarn_parse_dec(got, text), "%0d", $unsigned(a.v))
-            $sformat(text, "%0h", a.v);
-            `CHECK($tarn_parse_string(got, text), text)
-        end
+    task texts;
+        `CHECK_RADIX($tarn_bin_text, $tarn_parse_bin, "%b", "%0b")
+        `CHECK_RADIX($tarn_oct_text, $tarn_parse_oct, "%o", "%0o")
+        `CHECK_RADIX($tarn_hex_text, $tarn_parse_hex, "%h", "%0h")
+        `CHECK($tarn_parse_string(got, text), text)
+        `CHECK_TEXT($tarn_string_text(text, a.v, 1), "%s", a.v)
+        `CHECK_TEXT($tarn_dec_text(text, a.v, 0, 0), "%0d", a.v)
+        wider.v = a.v;
+        if (IS_SIGNED) `CHECK_TEXT($tarn_dec_text(text, a.v, -1, 0), "%d", wider.v)  // places
+        else `CHECK_TEXT($tarn_dec_text(text, a.v, -1, 0), "%d", a.v)
+        if (^a.v !== 1'bx) `CHECK_PARSE($tarn_parse_dec, "%0d", $unsigned(a.v))
     endtask
 
     task reals;
-        begin
-            // X and Z bits count as 0, and halves are rounded away from zero, as if more followed.
-            for (i = 0; i < W; i = i + 1) magnitude[i] = a.v[i] === 1'b1;
-            if (a.v[W-1] === 1'b1 && IS_SIGNED) magnitude = -magnitude;
-            y = magnitude;
-            if (magnitude >> 53 != 0) begin  // real
-                $sformat(text, "%0d", {magnitude, 1'b1});
-                matched = $sscanf(text, "%f", y);
-                y = y / 2;
-            end
-            if (a.v[W-1] === 1'b1 && IS_SIGNED) y = -y;
-            $tarn_to_real(x, a.v);
-            compare("to_real", x == y);
-
-            x = common.draw_real(W);
-            // Halves are added as reals: from 2 to the power 52 on, that may round.
-            y = (x < 0) ? x - 0.5 : x + 0.5;
-            if (x < 2.0 ** 52 && -x < 2.0 ** 52) y = x;
-            `CHECK($tarn_from_real(got, x), y)
-            `CHECK($tarn_real_bits(got, x), $realtobits(x))
-            if (W <= 32) `CHECK($tarn_truncate_real(got, x), $rtoi(x))
-            if (^a.v !== 1'bx) `CHECK($tarn_clog2(got, a.v), $clog2(a.v))
+        // X and Z bits count as 0, and halves are rounded away from zero, as if more followed.
+        for (i = 0; i < W; i = i + 1) magnitude[i] = a.v[i] === 1'b1;
+        if (a.v[W-1] === 1'b1 && IS_SIGNED) magnitude = -magnitude;
+        y = magnitude;
+        if (magnitude >> 53 != 0) begin  // real
+            $sformat(text, "%0d", {magnitude, 1'b1});
+            matched = $sscanf(text, "%f", y);
+            y = y / 2;
         end
+        if (a.v[W-1] === 1'b1 && IS_SIGNED) y = -y;
+        $tarn_to_real(x, a.v);
+        compare("to_real", x == y);
+
+        x = common.draw_real(W);
+        // Halves are added as reals: from 2 to the power 52 on, that may round.
+        y = (x < 0) ? x - 0.5 : x + 0.5;
+        if (x < 2.0 ** 52 && -x < 2.0 ** 52) y = x;
+        `CHECK($tarn_from_real(got, x), y)
+        `CHECK($tarn_real_bits(got, x), $realtobits(x))
+        if (W <= 32) `CHECK($tarn_truncate_real(got, x), $rtoi(x))
+        if (^a.v !== 1'bx) `CHECK($tarn_clog2(got, a.v), $clog2(a.v))
     endtask
 
-    task round;
-        begin
-            a.v = common.draw(W);
-            if (common.below(4) == 0) begin
-                half = common.noise(54) | 54'h20_0000_0000_0001;
-                a.v = half << common.below(W);
-                if (common.below(2) == 0) a.v = -a.v;
-            end
-            texts;
-            parses;
-            reals;
+    initial #1 repeat (common.rounds) begin
+        a.v = common.draw(W);
+        if (common.below(4) == 0) begin
+            half = common.noise(54) | 54'h20_0000_0000_0001;
+            a.v = half << common.below(W);
+            if (common.below(2) == 0) a.v = -a.v;
         end
-    endtask
-
-    initial #1 repeat (common.rounds) round;
+        texts;
+        reals;
+    end
 endmodule
 
 // The tasks of reals alone. What the functions calculate is the C library's matter on both sides.
@@ -115,14 +94,11 @@ module reals;
     integer matched;
 
     task compare(input [8*20:1] call, input [8*400:1] got_text);
-        begin
-            common.comparisons = common.comparisons + 1;
-            if ($realtobits(got) !== $realtobits(expected) || got_text !== expected_text) begin
-                common.differences = common.differences + 1;
-                $display("%m %0s: %g, %g, %g, %g", call, x, y, positive, fraction);
-                $display("    tarnlib   %h \"%0s\"", $realtobits(got), got_text);
-                $display("    simulator %h \"%0s\"", $realtobits(expected), expected_text);
-            end
+        common.count($realtobits(got) === $realtobits(expected) && got_text === expected_text);
+        if ($realtobits(got) !== $realtobits(expected) || got_text !== expected_text) begin
+            $display("%m %0s: %g, %g, %g, %g", call, x, y, positive, fraction);
+            $display("    tarnlib   %h \"%0s\"", $realtobits(got), got_text);
+            $display("    simulator %h \"%0s\"", $realtobits(expected), expected_text);
         end
     endtask
 
@@ -130,20 +106,6 @@ module reals;
     begin $tarn_``NAME(got, X); expected = $``NAME(X); compare(`"NAME`", expected_text); end
 `define FUNCTION_OF_TWO(NAME, CALL) \
     begin $tarn_``NAME(got, positive, y); expected = CALL; compare(`"NAME`", expected_text); end
-
-    task functions;
-        begin
-            `FUNCTION(asinh, x) `FUNCTION(atan, x) `FUNCTION(ceil, x) `FUNCTION(cos, x)
-            `FUNCTION(cosh, x) `FUNCTION(exp, x) `FUNCTION(floor, x) `FUNCTION(sin, x)
-            `FUNCTION(sinh, x) `FUNCTION(tan, x) `FUNCTION(tanh, x)
-            `FUNCTION(ln, positive) `FUNCTION(log10, positive) `FUNCTION(sqrt, positive)
-            `FUNCTION(acosh, positive + 1) `FUNCTION(acos, fraction) `FUNCTION(asin, fraction)
-            `FUNCTION(atanh, fraction)
-            `FUNCTION_OF_TWO(atan2, $atan2(y, positive))
-            `FUNCTION_OF_TWO(hypot, $hypot(positive, y))
-            `FUNCTION_OF_TWO(pow, $pow(positive, y))
-        end
-    endtask
 
 // The text of a number, and the number that it means.
 `define CHECK_REAL_TEXT(FORMAT) \
@@ -161,26 +123,21 @@ module reals;
         if (common.below(2) == 0) x = x / 2.0 ** common.below(300);
         positive = (x < 0) ? -x : x + 1.0 / 1024;
         fraction = common.below(1999) / 1000.0 - 0.999;
-        functions;
-        `CHECK_REAL_TEXT("%f")
-        `CHECK_REAL_TEXT("%e")
-        `CHECK_REAL_TEXT("%g")
-        `CHECK_REAL_TEXT("%12.3f")
-        `CHECK_REAL_TEXT("%.17g")
+        `FUNCTION(asinh, x) `FUNCTION(atan, x) `FUNCTION(ceil, x) `FUNCTION(cos, x)
+        `FUNCTION(cosh, x) `FUNCTION(exp, x) `FUNCTION(floor, x) `FUNCTION(sin, x)
+        `FUNCTION(sinh, x) `FUNCTION(tan, x) `FUNCTION(tanh, x) `FUNCTION(ln, positive)
+        `FUNCTION(log10, positive) `FUNCTION(sqrt, positive) `FUNCTION(acosh, positive + 1)
+        `FUNCTION(acos, fraction) `FUNCTION(asin, fraction) `FUNCTION(atanh, fraction)
+        `FUNCTION_OF_TWO(atan2, $atan2(y, positive)) `FUNCTION_OF_TWO(pow, $pow(positive, y))
+        `FUNCTION_OF_TWO(hypot, $hypot(positive, y))
+        `CHECK_REAL_TEXT("%f") `CHECK_REAL_TEXT("%e") `CHECK_REAL_TEXT("%g")
+        `CHECK_REAL_TEXT("%12.3f") `CHECK_REAL_TEXT("%.17g")
     end
 endmodule
 
 module conversions;
-    localparam COUNT = 18;
-    localparam [16*COUNT-1:0] WIDTHS = {
-        16'd1, 16'd2, 16'd3, 16'd4, 16'd7, 16'd8, 16'd16, 16'd31, 16'd32, 16'd33, 16'd55, 16'd63,
-        16'd64, 16'd65, 16'd100, 16'd128, 16'd129, 16'd300};
-
-    genvar i;
-    generate
-        for (i = 0; i < 2 * COUNT; i = i + 1) begin : widths
-            vector #(WIDTHS[16*(i/2) +: 16], i % 2) vector();
-        end
-    endgenerate
+    for (genvar i = 0; i < 2 * COUNT; i = i + 1) begin : widths
+        vector #(WIDTHS[16*(i/2) +: 16], i % 2) vector();
+    end
     reals reals();
 endmodule
