@@ -50,4 +50,3 @@ std::array<int, 2> Compare() {
 
 }  // namespace
 }  // namespace tarn::test
-

@@ -37,7 +37,7 @@ struct Family {
 const std::vector<Family>& AllFamilies();
 
 // What is drawn is the list of a call's arguments, and the model takes the same. What the model
-// gives stands in front of them: a vector of a width, or a real; else it is what the export returns.
+// gives stands in front of them, a vector of a width or a real; else it is what the export returns.
 struct Width {
     Width(int width) : bits(width) {}
     operator int() const { return bits; }
