@@ -18,9 +18,8 @@ localparam [16*COUNT-1:0] WIDTHS = {
 module common;
     localparam MAX = 320;
 
-    integer seed = 1;
+    integer seed = 1, rounds = 1;
     integer comparisons = 0, differences = 0;
-    integer rounds = 1;
     reg is_given = $value$plusargs("rounds=%d", rounds);
 
     task count(input is_same);
@@ -46,8 +45,7 @@ module common;
         case (below(10))
             0: known = 320'd1 << (width - 1);
             1: known = (320'd1 << (width - 1)) - 1;
-            2, 3: known = below(20);
-            4: known = -below(20);
+            2, 3, 4: known = below(40) - 20;
             5, 6: known = runs(width);
             7: known = 320'd1 << below(width);
             default: known = noise(width);
@@ -86,8 +84,7 @@ module common;
     // A real of up to `width` bits in front of the point, halves among them.
     function real draw_real(input integer width);
         case (below(6))
-            0: draw_real = below(20) / 2.0;
-            1: draw_real = -below(20) / 2.0;
+            0, 1: draw_real = (below(40) - 20) / 2.0;
             2: draw_real = $itor($random(seed)) / 4.0;
             3: draw_real = 2.0 ** below(width) * (1.0 + $itor(below(1 << 30)) / (1 << 30));
             4: draw_real = -(2.0 ** below(width));

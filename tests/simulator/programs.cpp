@@ -2,16 +2,14 @@
 //
 //     simulator_programs TARNCALC IVERILOG VVP DIRECTORY COUNT [SEED]
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
 
-#include "generator.h"
+#include "program.h"
 
-namespace tarn::test {
 namespace {
 
 constexpr int kProgramsPerRun = 250;  // a simulator starts slowly
@@ -22,8 +20,8 @@ void WriteFiles(std::uint64_t seed, int first, int last) {
     std::ofstream simulator("programs.v");
     simulator << "module programs;\n";
     for (int i = first; i < last; ++i) {
-        Generator generator(seed * 1'000'003 + static_cast<std::uint64_t>(i), i);
-        const auto& [declarations, statements] = generator.Make();
+        const auto [declarations, statements] =
+            tarn::test::RandomProgram(seed * 1'000'003 + static_cast<std::uint64_t>(i), i);
         calculator << declarations << statements;
         simulator << declarations << "task run" << i << "; begin\n"
                   << statements << "end endtask\ninitial #" << i << " run" << i << ";\n";
@@ -31,22 +29,47 @@ void WriteFiles(std::uint64_t seed, int first, int last) {
     simulator << "endmodule\n";
 }
 
-/** Counts the lines, one for each $display, and those that differ. */
-std::array<int, 2> Compare() {
-    std::array<int, 2> counts{};
+/** Both have printed a line for each $display, in the same order. */
+void Compare(int& lines, int& differences) {
     std::ifstream simulator("simulator.out");
     std::ifstream calculator("tarncalc.out");
+    std::string simulated, calculated;
     while (true) {
-        std::array<std::string, 2> lines;
-        const bool isSimulated{std::getline(simulator, lines[0])};
-        const bool isCalculated{std::getline(calculator, lines[1])};
-        if (!isSimulated && !isCalculated) return counts;
-        ++counts[0];
-        if (isSimulated == isCalculated && lines[0] == lines[1]) continue;
-        ++counts[1];
-        std::cout << "simulator " << lines[0] << "\ntarncalc  " << lines[1] << '\n';
+        if (!std::getline(simulator, simulated)) simulated = "nothing";
+        if (!std::getline(calculator, calculated)) calculated = "nothing";
+        if (!simulator && !calculator) return;
+        ++lines;
+        if (simulated == calculated) continue;
+        ++differences;
+        std::cout << "tarncalc  " << calculated << "\nsimulator " << simulated << '\n';
     }
 }
 
 }  // namespace
-}  // namespace tarn::test
+
+int main(int argc, char** argv) {
+    if (argc < 6) {
+        std::cerr << "usage: simulator_programs TARNCALC IVERILOG VVP DIRECTORY COUNT [SEED]\n";
+        return 2;
+    }
+    const std::string tarncalc = argv[1], iverilog = argv[2], vvp = argv[3];
+    const std::string run = iverilog + " -g2012 -o programs.vvp programs.v 2>iverilog.log && " +
+                            vvp + " -n programs.vvp >simulator.out </dev/null && " + tarncalc +
+                            " -f programs.txt >tarncalc.out 2>tarncalc.log";
+    const int programCount = std::atoi(argv[5]);
+    const std::uint64_t seed = argc > 6 ? std::strtoull(argv[6], nullptr, 10) : 1;
+    std::filesystem::create_directories(argv[4]);
+    std::filesystem::current_path(argv[4]);
+    int lines = 0, differences = 0;
+    for (int first = 0; first < programCount; first += kProgramsPerRun) {
+        WriteFiles(seed, first, std::min(programCount, first + kProgramsPerRun));
+        if (std::system(run.c_str()) != 0) {
+            std::cerr << "failed: " << run << '\n';
+            return 2;
+        }
+        Compare(lines, differences);
+    }
+    std::cout << programCount << " programs, " << lines << " comparisons, " << differences
+              << " differences\n";
+    return differences == 0 && lines > 0 ? 0 : 1;
+}
