@@ -1,15 +1,16 @@
 /** @file
  *  Narrow vectors without a call. Included instead of tarnlib.h, or after it, this header gives
  *  most functions an inline form: where the compiler knows that all widths of a call are 1 to 64,
- *  tarn_UnsignedAdd(32, result, 32, a, 32, b) becomes a few instructions, and the library is not
- *  called. Besides, it has vectors of up to 64 bits as values, tarn_V64, which stay in registers.
+ *  `tarn_UnsignedAdd(32, result, 32, a, 32, b)` becomes a few instructions, and the library is not
+ *  called. Besides, it has vectors of up to 64 bits as values, `tarn_V64` of tarnlib/inline/value.h,
+ *  which stay in registers.
  *
- *  Generated code stays as it is. A form does what the function does, word for word: its comment
- *  holds for the form, which may run in any thread where the function may. Other widths, and widths
- *  that the compiler does not know, mean the function; so do (tarn_UnsignedAdd)(...), in brackets,
- *  and the name without arguments, as an address. A field or a bit that is read or written by its
- *  index has a form in a vector of any known width, and so has an operand that is placed in a
- *  longer vector.
+ *  Generated code stays as it is. A form does what the function does, word for word, and the
+ *  function's comment holds for it: the words that are read and written, the storage that may be
+ *  shared, the threads that it may run in. Other widths, and widths that the compiler does not
+ *  know, mean the function; so do `(tarn_UnsignedAdd)(...)`, in brackets, and the name without
+ *  arguments, as an address. Of a vector in which a field or a bit is read or written by its index,
+ *  and of one that an operand is placed in, any known width will do.
  *
  *  Without optimisation, without the built-in functions of GCC and Clang, and where TARNLIB_CHECKED
  *  is defined so that the checked library sees every call, all names mean the functions. Where
@@ -146,5 +147,8 @@
     tarn_InlineNotIdenticalMemoryWordIndexedPartselectAssign1(__VA_ARGS__)
 
 #endif
+
+/* These shift narrow vectors by the forms. */
+#include <tarnlib/inline/shift_by.h>
 
 #endif

@@ -57,35 +57,31 @@
                           int bWidth, const VectorWord* b) TARNLIB_NOEXCEPT {                    \
         if (TARN_IS_NARROW(TARN_BELOW(resultWidth) | TARN_BELOW(aWidth) | TARN_BELOW(bWidth))) { \
             const tarn_Words x = wordsOf(aWidth, a), y = wordsOf(bWidth, b);                     \
-            const tarn_V64 low = rule(tarn_V64OfHalves(x.low), tarn_V64OfHalves(y.low));         \
-            const tarn_V64 high = rule(tarn_V64OfHalves(x.high), tarn_V64OfHalves(y.high));      \
-            tarn_StoreWords(resultWidth, result, tarn_JoinHalves(low), tarn_JoinHalves(high));   \
+            tarn_StoreWords(resultWidth, result, rule(x.low, y.low), rule(x.high, y.high));      \
         } else {                                                                                 \
             function(resultWidth, result, aWidth, a, bWidth, b);                                 \
         }                                                                                        \
     }
 
-#define TARN_INVERT_FORM(form, function, wordsOf, rule)                                          \
-    TARN_INLINE void form(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a)  \
-        TARNLIB_NOEXCEPT {                                                                       \
-        if (TARN_IS_NARROW(TARN_BELOW(resultWidth) | TARN_BELOW(aWidth))) {                      \
-            const tarn_Words x = wordsOf(aWidth, a);                                             \
-            tarn_StoreWords(resultWidth, result, tarn_JoinHalves(rule(tarn_V64OfHalves(x.low))), \
-                            tarn_JoinHalves(rule(tarn_V64OfHalves(x.high))));                    \
-        } else {                                                                                 \
-            function(resultWidth, result, aWidth, a);                                            \
-        }                                                                                        \
+#define TARN_INVERT_FORM(form, function, wordsOf, rule)                                         \
+    TARN_INLINE void form(int resultWidth, VectorWord* result, int aWidth, const VectorWord* a) \
+        TARNLIB_NOEXCEPT {                                                                      \
+        if (TARN_IS_NARROW(TARN_BELOW(resultWidth) | TARN_BELOW(aWidth))) {                     \
+            const tarn_Words x = wordsOf(aWidth, a);                                            \
+            tarn_StoreWords(resultWidth, result, rule(x.low), rule(x.high));                    \
+        } else {                                                                                \
+            function(resultWidth, result, aWidth, a);                                           \
+        }                                                                                       \
     }
 
-#define TARN_REWRITE_FORM(form, function, rule)                                       \
-    TARN_INLINE void form(int width, VectorWord* v) TARNLIB_NOEXCEPT {                \
-        if (TARN_IS_NARROW(TARN_BELOW(width))) {                                      \
-            const tarn_Words x = tarn_UnsignedWords(width, v);                        \
-            tarn_StoreWords(width, v, tarn_JoinHalves(rule(tarn_V64OfHalves(x.low))), \
-                            tarn_JoinHalves(rule(tarn_V64OfHalves(x.high))));         \
-        } else {                                                                      \
-            function(width, v);                                                       \
-        }                                                                             \
+#define TARN_REWRITE_FORM(form, function, rule)                        \
+    TARN_INLINE void form(int width, VectorWord* v) TARNLIB_NOEXCEPT { \
+        if (TARN_IS_NARROW(TARN_BELOW(width))) {                       \
+            const tarn_Words x = tarn_UnsignedWords(width, v);         \
+            tarn_StoreWords(width, v, rule(x.low), rule(x.high));      \
+        } else {                                                       \
+            function(width, v);                                        \
+        }                                                              \
     }
 
 /* The step is 1 or -1; word 1 is written only where the carry or borrow reaches it. */
@@ -147,23 +143,23 @@ TARN_CONVERT_FORM(tarn_InlineMapToShortVector, tarn_MapToShortVector, double, ta
 
 TARN_INLINE void tarn_StepNumber(int width, VectorWord* v, int step) TARNLIB_NOEXCEPT {
     const tarn_V64 stepped =
-        tarn_NumberSum(tarn_V64UnsignedLoad(width, v), tarn_V64Of(TARN_CAST(uint64_t, step), 0));
+        tarn_NumberSum(tarn_UnsignedNumber(width, v), tarn_V64Of(TARN_CAST(uint64_t, step), 0));
     const uint32_t wrapped = step > 0 ? 0 : UINT32_C(0xFFFFFFFF);
     const int isWrapped = TARN_CAST(uint32_t, stepped.aval) == wrapped;
     tarn_StoreNumber(isWrapped || stepped.bval != 0 ? width : 1, v, stepped);
 }
 
-TARN_SUM_FORM(tarn_InlineSignedAdd, tarn_SignedAdd, tarn_V64SignedLoad, tarn_NumberSum)
-TARN_SUM_FORM(tarn_InlineUnsignedAdd, tarn_UnsignedAdd, tarn_V64UnsignedLoad, tarn_NumberSum)
-TARN_SUM_FORM(tarn_InlineSignedSub, tarn_SignedSub, tarn_V64SignedLoad, tarn_NumberDifference)
-TARN_SUM_FORM(tarn_InlineUnsignedSub, tarn_UnsignedSub, tarn_V64UnsignedLoad, tarn_NumberDifference)
-TARN_SUM_FORM(tarn_InlineSignedMul, tarn_SignedMul, tarn_V64SignedLoad, tarn_NumberProduct)
-TARN_SUM_FORM(tarn_InlineUnsignedMul, tarn_UnsignedMul, tarn_V64UnsignedLoad, tarn_NumberProduct)
-TARN_SIGN_FORM(tarn_InlineSignedMinus, tarn_SignedMinus, tarn_V64SignedLoad, tarn_NumberDifference)
-TARN_SIGN_FORM(tarn_InlineUnsignedMinus, tarn_UnsignedMinus, tarn_V64UnsignedLoad,
+TARN_SUM_FORM(tarn_InlineSignedAdd, tarn_SignedAdd, tarn_SignedNumber, tarn_NumberSum)
+TARN_SUM_FORM(tarn_InlineUnsignedAdd, tarn_UnsignedAdd, tarn_UnsignedNumber, tarn_NumberSum)
+TARN_SUM_FORM(tarn_InlineSignedSub, tarn_SignedSub, tarn_SignedNumber, tarn_NumberDifference)
+TARN_SUM_FORM(tarn_InlineUnsignedSub, tarn_UnsignedSub, tarn_UnsignedNumber, tarn_NumberDifference)
+TARN_SUM_FORM(tarn_InlineSignedMul, tarn_SignedMul, tarn_SignedNumber, tarn_NumberProduct)
+TARN_SUM_FORM(tarn_InlineUnsignedMul, tarn_UnsignedMul, tarn_UnsignedNumber, tarn_NumberProduct)
+TARN_SIGN_FORM(tarn_InlineSignedMinus, tarn_SignedMinus, tarn_SignedNumber, tarn_NumberDifference)
+TARN_SIGN_FORM(tarn_InlineUnsignedMinus, tarn_UnsignedMinus, tarn_UnsignedNumber,
                tarn_NumberDifference)
-TARN_SIGN_FORM(tarn_InlineSignedPlus, tarn_SignedPlus, tarn_V64SignedLoad, tarn_NumberSum)
-TARN_SIGN_FORM(tarn_InlineUnsignedPlus, tarn_UnsignedPlus, tarn_V64UnsignedLoad, tarn_NumberSum)
+TARN_SIGN_FORM(tarn_InlineSignedPlus, tarn_SignedPlus, tarn_SignedNumber, tarn_NumberSum)
+TARN_SIGN_FORM(tarn_InlineUnsignedPlus, tarn_UnsignedPlus, tarn_UnsignedNumber, tarn_NumberSum)
 TARN_STEP_FORM(tarn_InlineInc, tarn_Inc, 1)
 TARN_STEP_FORM(tarn_InlineDec, tarn_Dec, -1)
 
@@ -172,43 +168,40 @@ TARN_STEP_FORM(tarn_InlineDec, tarn_Dec, -1)
  *----------------------------------------------------------------------------------------------*/
 
 TARN_BITWISE_FORM(tarn_InlineSignedBitwiseAND, tarn_SignedBitwiseAND, tarn_SignedWords,
-                  tarn_V64BitwiseAND)
+                  tarn_WordAND)
 TARN_BITWISE_FORM(tarn_InlineUnsignedBitwiseAND, tarn_UnsignedBitwiseAND, tarn_UnsignedWords,
-                  tarn_V64BitwiseAND)
+                  tarn_WordAND)
 TARN_BITWISE_FORM(tarn_InlineSignedBitwiseNAND, tarn_SignedBitwiseNAND, tarn_SignedWords,
-                  tarn_V64BitwiseNAND)
+                  tarn_WordNAND)
 TARN_BITWISE_FORM(tarn_InlineUnsignedBitwiseNAND, tarn_UnsignedBitwiseNAND, tarn_UnsignedWords,
-                  tarn_V64BitwiseNAND)
-TARN_BITWISE_FORM(tarn_InlineSignedBitwiseOR, tarn_SignedBitwiseOR, tarn_SignedWords,
-                  tarn_V64BitwiseOR)
+                  tarn_WordNAND)
+TARN_BITWISE_FORM(tarn_InlineSignedBitwiseOR, tarn_SignedBitwiseOR, tarn_SignedWords, tarn_WordOR)
 TARN_BITWISE_FORM(tarn_InlineUnsignedBitwiseOR, tarn_UnsignedBitwiseOR, tarn_UnsignedWords,
-                  tarn_V64BitwiseOR)
+                  tarn_WordOR)
 TARN_BITWISE_FORM(tarn_InlineSignedBitwiseNOR, tarn_SignedBitwiseNOR, tarn_SignedWords,
-                  tarn_V64BitwiseNOR)
+                  tarn_WordNOR)
 TARN_BITWISE_FORM(tarn_InlineUnsignedBitwiseNOR, tarn_UnsignedBitwiseNOR, tarn_UnsignedWords,
-                  tarn_V64BitwiseNOR)
+                  tarn_WordNOR)
 TARN_BITWISE_FORM(tarn_InlineSignedBitwiseXOR, tarn_SignedBitwiseXOR, tarn_SignedWords,
-                  tarn_V64BitwiseXOR)
+                  tarn_WordXOR)
 TARN_BITWISE_FORM(tarn_InlineUnsignedBitwiseXOR, tarn_UnsignedBitwiseXOR, tarn_UnsignedWords,
-                  tarn_V64BitwiseXOR)
+                  tarn_WordXOR)
 TARN_BITWISE_FORM(tarn_InlineSignedBitwiseXNOR, tarn_SignedBitwiseXNOR, tarn_SignedWords,
-                  tarn_V64BitwiseXNOR)
+                  tarn_WordXNOR)
 TARN_BITWISE_FORM(tarn_InlineUnsignedBitwiseXNOR, tarn_UnsignedBitwiseXNOR, tarn_UnsignedWords,
-                  tarn_V64BitwiseXNOR)
+                  tarn_WordXNOR)
 TARN_BITWISE_FORM(tarn_InlineSignedConditionalMix, tarn_SignedConditionalMix, tarn_SignedWords,
-                  tarn_V64ConditionalMix)
+                  tarn_WordMix)
 TARN_BITWISE_FORM(tarn_InlineUnsignedConditionalMix, tarn_UnsignedConditionalMix,
-                  tarn_UnsignedWords, tarn_V64ConditionalMix)
-TARN_INVERT_FORM(tarn_InlineSignedBitwiseBUF, tarn_SignedBitwiseBUF, tarn_SignedWords,
-                 tarn_V64BitwiseBUF)
+                  tarn_UnsignedWords, tarn_WordMix)
+TARN_INVERT_FORM(tarn_InlineSignedBitwiseBUF, tarn_SignedBitwiseBUF, tarn_SignedWords, tarn_WordBUF)
 TARN_INVERT_FORM(tarn_InlineUnsignedBitwiseBUF, tarn_UnsignedBitwiseBUF, tarn_UnsignedWords,
-                 tarn_V64BitwiseBUF)
-TARN_INVERT_FORM(tarn_InlineSignedBitwiseNOT, tarn_SignedBitwiseNOT, tarn_SignedWords,
-                 tarn_V64BitwiseNOT)
+                 tarn_WordBUF)
+TARN_INVERT_FORM(tarn_InlineSignedBitwiseNOT, tarn_SignedBitwiseNOT, tarn_SignedWords, tarn_WordNOT)
 TARN_INVERT_FORM(tarn_InlineUnsignedBitwiseNOT, tarn_UnsignedBitwiseNOT, tarn_UnsignedWords,
-                 tarn_V64BitwiseNOT)
-TARN_REWRITE_FORM(tarn_InlineConvert0ToZ, tarn_Convert0ToZ, tarn_V64Convert0ToZ)
-TARN_REWRITE_FORM(tarn_InlineConvert1ToZ, tarn_Convert1ToZ, tarn_V64Convert1ToZ)
-TARN_REWRITE_FORM(tarn_InlineConvertXZTo0, tarn_ConvertXZTo0, tarn_V64ConvertXZTo0)
+                 tarn_WordNOT)
+TARN_REWRITE_FORM(tarn_InlineConvert0ToZ, tarn_Convert0ToZ, tarn_Word0ToZ)
+TARN_REWRITE_FORM(tarn_InlineConvert1ToZ, tarn_Convert1ToZ, tarn_Word1ToZ)
+TARN_REWRITE_FORM(tarn_InlineConvertXZTo0, tarn_ConvertXZTo0, tarn_WordXZTo0)
 
 #endif

@@ -8,7 +8,7 @@
 #ifndef TARNLIB_INLINE_VALUE_H
 #define TARNLIB_INLINE_VALUE_H
 
-#include <tarnlib/inline/word.h>
+#include <tarnlib/inline/rules.h>
 
 /** A vector of 1 to 64 bits. Bit i is the pair (bit i of aval, bit i of bval), as in a VectorWord.
  *  top word  a value of fewer bits is fit where the bits above its width are 0 (unsigned) or copies
@@ -25,6 +25,11 @@ TARN_INLINE tarn_V64 tarn_V64Of(uint64_t aval, uint64_t bval) TARNLIB_NOEXCEPT {
     value.aval = aval;
     value.bval = bval;
     return value;
+}
+
+/* A word as the value of its 32 bits; what stands above them in aval has no meaning. */
+TARN_INLINE tarn_V64 tarn_V64OfHalves(uint64_t word) TARNLIB_NOEXCEPT {
+    return tarn_V64Of(word, word >> 32);
 }
 
 /*------------------------------------------------------------------------------------------------
@@ -94,8 +99,23 @@ TARN_INLINE void tarn_SignedFit(int width, VectorWord* v) TARNLIB_NOEXCEPT {
  * Arithmetic: any bval bit set anywhere in an operand makes all 64 bits of the result X
  *----------------------------------------------------------------------------------------------*/
 
-/* A number, and bits of which any makes it unknown. Of the operators below this is all that they
- * compute; the result of a chain is made X once. */
+/* Numbers: aval is the number, and any bit of bval makes it unknown. The operators are this and, at
+ * the end, X for what is unknown. Of a vector in storage the unknown bits are those of both words
+ * joined, so that they are 32. */
+TARN_INLINE tarn_V64 tarn_UnsignedNumber(int width, const VectorWord* v) TARNLIB_NOEXCEPT {
+    const uint64_t low = tarn_LoadWord(v);
+    uint64_t high;
+    if (width <= 32) return tarn_V64Of(low & TARN_AVAL_HALF, low >> 32);
+    high = tarn_LoadWord(v + 1);
+    return tarn_V64Of((low & TARN_AVAL_HALF) | high << 32, (low | high) >> 32);
+}
+
+TARN_INLINE tarn_V64 tarn_SignedNumber(int width, const VectorWord* v) TARNLIB_NOEXCEPT {
+    const uint64_t low = tarn_LoadWord(v);
+    if (width > 32) return tarn_UnsignedNumber(width, v);
+    return tarn_V64Of(TARN_CAST(uint64_t, TARN_CAST(int64_t, low << 32) >> 32), low >> 32);
+}
+
 TARN_INLINE tarn_V64 tarn_NumberSum(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
     return tarn_V64Of(a.aval + b.aval, a.bval | b.bval);
 }
@@ -108,18 +128,14 @@ TARN_INLINE tarn_V64 tarn_NumberProduct(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT
     return tarn_V64Of(a.aval * b.aval, a.bval | b.bval);
 }
 
-/* All bits set where the number is unknown, else none. */
-TARN_INLINE uint64_t tarn_XOfNumber(tarn_V64 number) TARNLIB_NOEXCEPT {
-    return 0U - TARN_CAST(uint64_t, number.bval != 0);
-}
-
 TARN_INLINE tarn_V64 tarn_V64OfNumber(tarn_V64 number) TARNLIB_NOEXCEPT {
-    const uint64_t x = tarn_XOfNumber(number);
+    const uint64_t x = 0U - TARN_CAST(uint64_t, number.bval != 0);
     return tarn_V64Of(number.aval | x, x);
 }
 
+/* The number has 32 unknown bits, so the sign of the negative tells whether one is set. */
 TARN_INLINE void tarn_StoreNumber(int width, VectorWord* result, tarn_V64 number) TARNLIB_NOEXCEPT {
-    const uint64_t x = tarn_XOfNumber(number);
+    const uint64_t x = TARN_CAST(uint64_t, TARN_CAST(int64_t, 0U - number.bval) >> 63);
     tarn_StoreWords(width, result, (number.aval & TARN_AVAL_HALF) | x, number.aval >> 32 | x);
 }
 
@@ -162,33 +178,43 @@ TARN_INLINE tarn_V64 tarn_V64Dec(tarn_V64 v) TARNLIB_NOEXCEPT {
  * Bitwise operators
  *----------------------------------------------------------------------------------------------*/
 
+/* The halves of a value, and what a rule makes of those of one value or two. */
+TARN_INLINE tarn_Half tarn_AvalOf(tarn_V64 v) TARNLIB_NOEXCEPT {
+    return tarn_HalfOf(v.aval, 0, v.bval);
+}
+
+TARN_INLINE tarn_Half tarn_BvalOf(tarn_V64 v) TARNLIB_NOEXCEPT {
+    return tarn_HalfOf(v.bval, v.aval, 0);
+}
+
+#define TARN_RULED1(rule, a) tarn_V64Of(rule(tarn_AvalOf(a), TARN_ALL_X), rule(tarn_BvalOf(a), 0))
+#define TARN_RULED2(rule, a, b)                                  \
+    tarn_V64Of(rule(tarn_AvalOf(a), tarn_AvalOf(b), TARN_ALL_X), \
+               rule(tarn_BvalOf(a), tarn_BvalOf(b), 0))
+
 /** a & b. */
 TARN_INLINE tarn_V64 tarn_V64BitwiseAND(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    const uint64_t neitherIsZero = (a.aval | a.bval) & (b.aval | b.bval);
-    return tarn_V64Of(neitherIsZero, neitherIsZero & (a.bval | b.bval));
+    return TARN_RULED2(tarn_RuleAND, a, b);
 }
 
 /** a | b. */
 TARN_INLINE tarn_V64 tarn_V64BitwiseOR(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    const uint64_t unknown = a.bval | b.bval;
-    const uint64_t isOne = (a.aval & ~a.bval) | (b.aval & ~b.bval);
-    return tarn_V64Of(a.aval | b.aval | unknown, unknown & ~isOne);
+    return TARN_RULED2(tarn_RuleOR, a, b);
 }
 
 /** a ^ b. */
 TARN_INLINE tarn_V64 tarn_V64BitwiseXOR(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    const uint64_t unknown = a.bval | b.bval;
-    return tarn_V64Of((a.aval ^ b.aval) | unknown, unknown);
+    return TARN_RULED2(tarn_RuleXOR, a, b);
 }
 
 /** ~a. */
 TARN_INLINE tarn_V64 tarn_V64BitwiseNOT(tarn_V64 a) TARNLIB_NOEXCEPT {
-    return tarn_V64Of(~a.aval | a.bval, a.bval);
+    return TARN_RULED1(tarn_RuleNOT, a);
 }
 
 /** a, in which Z has become X. */
 TARN_INLINE tarn_V64 tarn_V64BitwiseBUF(tarn_V64 a) TARNLIB_NOEXCEPT {
-    return tarn_V64Of(a.aval | a.bval, a.bval);
+    return TARN_RULED1(tarn_RuleBUF, a);
 }
 
 /** ~(a & b). */
@@ -208,8 +234,7 @@ TARN_INLINE tarn_V64 tarn_V64BitwiseXNOR(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEP
 
 /** a and b merged, as where a condition is X or Z. */
 TARN_INLINE tarn_V64 tarn_V64ConditionalMix(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    const uint64_t unknown = a.bval | b.bval;
-    return tarn_V64Of(a.aval | b.aval | unknown, (a.aval ^ b.aval) | unknown);
+    return TARN_RULED2(tarn_RuleMix, a, b);
 }
 
 /** condition ? a : b, without a branch.
@@ -231,30 +256,17 @@ TARN_INLINE tarn_V64 tarn_V64Mux(tarn_V64 condition, tarn_V64 a, tarn_V64 b) TAR
 
 /** Each 0 as Z. */
 TARN_INLINE tarn_V64 tarn_V64Convert0ToZ(tarn_V64 v) TARNLIB_NOEXCEPT {
-    return tarn_V64Of(v.aval, v.bval | ~v.aval);
+    return TARN_RULED1(tarn_Rule0ToZ, v);
 }
 
 /** Each 1 as Z. */
 TARN_INLINE tarn_V64 tarn_V64Convert1ToZ(tarn_V64 v) TARNLIB_NOEXCEPT {
-    return tarn_V64Of(v.aval & v.bval, v.aval | v.bval);
+    return TARN_RULED1(tarn_Rule1ToZ, v);
 }
 
 /** Each X and Z as 0. */
 TARN_INLINE tarn_V64 tarn_V64ConvertXZTo0(tarn_V64 v) TARNLIB_NOEXCEPT {
-    return tarn_V64Of(v.aval & ~v.bval, 0);
-}
-
-/*------------------------------------------------------------------------------------------------
- * Single words: an operator that never looks from one bit to another, on a word as a number
- *----------------------------------------------------------------------------------------------*/
-
-/* The high half of this value's aval has no meaning. */
-TARN_INLINE tarn_V64 tarn_V64OfHalves(uint64_t word) TARNLIB_NOEXCEPT {
-    return tarn_V64Of(word, word >> 32);
-}
-
-TARN_INLINE uint64_t tarn_JoinHalves(tarn_V64 v) TARNLIB_NOEXCEPT {
-    return (v.aval & TARN_AVAL_HALF) | v.bval << 32;
+    return TARN_RULED1(tarn_RuleXZTo0, v);
 }
 
 #endif

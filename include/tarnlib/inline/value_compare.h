@@ -66,57 +66,88 @@ TARN_INLINE int tarn_V64CheckCondition(tarn_V64 v) TARNLIB_NOEXCEPT {
  * Equality
  *----------------------------------------------------------------------------------------------*/
 
-/* A mismatch anywhere outweighs what is unknown. */
-TARN_INLINE LogicCode tarn_LogicOfMatch(uint64_t mismatch, uint64_t unknown) TARNLIB_NOEXCEPT {
-    return tarn_LogicUnless(unknown, 1) & -TARN_CAST(int, mismatch == 0);
+/* What two values say of their equality: aval holds the positions that do not match, bval those
+ * that leave it open. */
+
+/* ==: two known bits are equal or not, the others leave it open. */
+TARN_INLINE tarn_V64 tarn_FindEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
+    const uint64_t unknown = a.bval | b.bval;
+    return tarn_V64Of((a.aval ^ b.aval) & ~unknown, unknown);
+}
+
+/* ===: all four values are told apart. */
+TARN_INLINE tarn_V64 tarn_FindCaseEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
+    return tarn_V64Of((a.aval ^ b.aval) | (a.bval ^ b.bval), 0);
+}
+
+/* casex: X and Z match everything. */
+TARN_INLINE tarn_V64 tarn_FindCaseXEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
+    return tarn_V64Of((a.aval ^ b.aval) & ~(a.bval | b.bval), 0);
+}
+
+/* casez: Z matches everything. Where neither bit is unknown the avals decide. Where one is, it
+ * mismatches if its aval is 1 (an X). Where both are, X meets X, or one is Z. */
+TARN_INLINE tarn_V64 tarn_FindCaseZEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
+    return tarn_V64Of((a.aval & ~b.bval) ^ (b.aval & ~a.bval), 0);
+}
+
+/* ==?: X and Z of b match everything, those of a leave open what a known bit of b is compared with. */
+TARN_INLINE tarn_V64 tarn_FindWildEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
+    return tarn_V64Of((a.aval ^ b.aval) & ~(a.bval | b.bval), a.bval & ~b.bval);
+}
+
+/* A mismatch anywhere outweighs what is open. */
+TARN_INLINE LogicCode tarn_LogicOfMatch(tarn_V64 found) TARNLIB_NOEXCEPT {
+    return tarn_LogicUnless(found.bval, 1) & -TARN_CAST(int, found.aval == 0);
+}
+
+TARN_INLINE LogicCode tarn_LogicOfMismatch(tarn_V64 found) TARNLIB_NOEXCEPT {
+    return tarn_LogicOpposite(tarn_LogicOfMatch(found));
 }
 
 /** a == b. */
 TARN_INLINE LogicCode tarn_V64Eq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    const uint64_t unknown = a.bval | b.bval;
-    return tarn_LogicOfMatch((a.aval ^ b.aval) & ~unknown, unknown);
+    return tarn_LogicOfMatch(tarn_FindEq(a, b));
 }
 
 /** a != b. */
 TARN_INLINE LogicCode tarn_V64NEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    return tarn_LogicOpposite(tarn_V64Eq(a, b));
-}
-
-/** Whether a and b differ in a bit, of aval or bval: 1 or 0. */
-TARN_INLINE int tarn_V64NotIdentical(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    return ((a.aval ^ b.aval) | (a.bval ^ b.bval)) != 0;
+    return tarn_LogicOfMismatch(tarn_FindEq(a, b));
 }
 
 /** a === b. */
 TARN_INLINE LogicCode tarn_V64CaseEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    return !tarn_V64NotIdentical(a, b);
+    return tarn_LogicOfMatch(tarn_FindCaseEq(a, b));
 }
 
 /** a !== b. */
 TARN_INLINE LogicCode tarn_V64CaseNEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    return tarn_V64NotIdentical(a, b);
+    return tarn_LogicOfMismatch(tarn_FindCaseEq(a, b));
 }
 
 /** Whether a matches b as an item of casex. */
 TARN_INLINE LogicCode tarn_V64CaseXEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    return ((a.aval ^ b.aval) & ~(a.bval | b.bval)) == 0;
+    return tarn_LogicOfMatch(tarn_FindCaseXEq(a, b));
 }
 
 /** Whether a matches b as an item of casez. */
 TARN_INLINE LogicCode tarn_V64CaseZEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    /* Where neither bit is unknown the avals decide. Where one is, it mismatches if its aval is 1
-     * (an X). Where both are, X meets X, or one is Z. */
-    return ((a.aval & ~b.bval) ^ (b.aval & ~a.bval)) == 0;
+    return tarn_LogicOfMatch(tarn_FindCaseZEq(a, b));
 }
 
 /** a ==? b. */
 TARN_INLINE LogicCode tarn_V64WildEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    return tarn_LogicOfMatch((a.aval ^ b.aval) & ~(a.bval | b.bval), a.bval & ~b.bval);
+    return tarn_LogicOfMatch(tarn_FindWildEq(a, b));
 }
 
 /** a !=? b. */
 TARN_INLINE LogicCode tarn_V64WildNEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
-    return tarn_LogicOpposite(tarn_V64WildEq(a, b));
+    return tarn_LogicOfMismatch(tarn_FindWildEq(a, b));
+}
+
+/** Whether a and b differ in a bit, of aval or bval: 1 or 0. */
+TARN_INLINE int tarn_V64NotIdentical(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
+    return tarn_FindCaseEq(a, b).aval != 0;
 }
 
 /*------------------------------------------------------------------------------------------------
