@@ -2,8 +2,8 @@
  *  Narrow vectors without a call. Included instead of tarnlib.h, or after it, this header gives
  *  most functions an inline form: where the compiler knows that all widths of a call are 1 to 64,
  *  `tarn_UnsignedAdd(32, result, 32, a, 32, b)` becomes a few instructions, and the library is not
- *  called. Besides, it has vectors of up to 64 bits as values, `tarn_V64` of tarnlib/inline/value.h,
- *  which stay in registers.
+ *  called. Besides, it has vectors of up to 64 bits as values, `tarn_V64` of
+ *  tarnlib/inline/value.h, which stay in registers.
  *
  *  Generated code stays as it is. A form does what the function does, word for word, and the
  *  function's comment holds for it: the words that are read and written, the storage that may be

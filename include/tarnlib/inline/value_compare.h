@@ -91,7 +91,7 @@ TARN_INLINE tarn_V64 tarn_FindCaseZEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
     return tarn_V64Of((a.aval & ~b.bval) ^ (b.aval & ~a.bval), 0);
 }
 
-/* ==?: X and Z of b match everything, those of a leave open what a known bit of b is compared with. */
+/* ==?: X and Z of b match everything, those of a leave open what a known bit of b meets. */
 TARN_INLINE tarn_V64 tarn_FindWildEq(tarn_V64 a, tarn_V64 b) TARNLIB_NOEXCEPT {
     return tarn_V64Of((a.aval ^ b.aval) & ~(a.bval | b.bval), a.bval & ~b.bval);
 }
