@@ -102,7 +102,7 @@ std::string CodeCharacter(int code, int spaceForNul) {
 template <Extension extension>
 std::int64_t MachineInteger(const Vec& value) {
     if (value.width < 1) return 0;
-    const auto low = static_cast<std::uint32_t>(LowBits(ToInteger(value), 32).get_ui());
+    const auto low = static_cast<std::uint32_t>(ToDouble(LowBits(ToInteger(value), 32)));
     if (extension == kZero) return low;
     const int above = std::max(32 - value.width, 0);
     return static_cast<std::int32_t>(low << above) >> above;
