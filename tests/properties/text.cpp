@@ -263,6 +263,8 @@ std::vector<Case> ByHand() {
     Party value = Target("70'h3fffffffffffffffff"_v, Words(70, {{0, 0}, {0, 0}, {0x3F, 0}}));
     value.fixed = tarn_VectorRegister;
     return {
+        // Where it is a process's first, the text fills its buffer, up to which the zeros reach.
+        TARN_CALL(tarn_ConvertToBin, "16'h1"_v, 19).Returns("0000000000000000001"),
         // Only zeros are left out or put in front; a short top digit of X alone is an x.
         TARN_CALL(tarn_ConvertToHex, "16'h00x0"_v, 0).Returns("x0"),
         TARN_CALL(tarn_ConvertToHex, "6'bxx0101"_v, -1).Returns("x5"),
