@@ -52,7 +52,8 @@ int main(int argc, char** argv) {
         std::cerr << "usage: simulator_programs TARNCALC IVERILOG VVP DIRECTORY COUNT [SEED]\n";
         return 2;
     }
-    const std::string tarncalc = argv[1], iverilog = argv[2], vvp = argv[3];
+    const std::string tarncalc = std::filesystem::absolute(argv[1]), iverilog = argv[2],
+                      vvp = argv[3];
     const std::string run = iverilog + " -g2012 -o programs.vvp programs.v 2>iverilog.log && " +
                             vvp + " -n programs.vvp >simulator.out </dev/null && " + tarncalc +
                             " -f programs.txt >tarncalc.out 2>tarncalc.log";
